@@ -1,0 +1,118 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+// The costs of a chart, each beside the least that it could cost in the same run.
+#include <benchmark/benchmark.h>
+#include <swephexp.h>
+
+#include "analysis/SelvaniDailyMod.h"
+#include "content/Languages.h"
+
+namespace {
+
+// Each round takes another minute, so that the library answers afresh.
+struct Clock {
+  int minute = 0;
+  void Set(clsPerson &person) {
+    person.SetDay(1 + minute / 1440 % 28);
+    person.SetMonth(7);
+    person.SetYear(1980);
+    person.SetHour(minute / 60 % 24);
+    person.SetMinutes(minute % 60);
+    ++minute;
+  }
+};
+
+void SetAgra(clsPerson &person) {
+  person.SetLatDeg(27);
+  person.SetLatMT(9);
+  person.SetLongDeg(78);
+  person.SetGMTDIFF(QStringLiteral("5.5"));
+}
+
+// The calls that one chart makes of the library, and nothing else.
+double BareCalls(double julianDay) {
+  double sum = swe_deltat(julianDay), position[11], cusps[13], angles[10];
+  char message[256];
+  for (const double day : {julianDay, julianDay + 1 / 24.0}) {
+    for (int body = SE_SUN; body <= SE_MEAN_NODE; ++body) {
+      swe_calc(day, body, 0, position, message);
+      sum += position[0];
+    }
+  }
+  swe_houses(julianDay, 27.15, 78, 'P', cusps, angles);
+  for (int query = 0; query < 2; ++query) {
+    swe_set_sid_mode(SE_SIDM_KRISHNAMURTI, 0, 0);
+    sum += swe_get_ayanamsa(julianDay);
+  }
+  return sum + cusps[1];
+}
+
+void LibraryCallsBare(benchmark::State &state) {
+  int minute = 0;
+  for (auto _ : state) benchmark::DoNotOptimize(BareCalls(2444421.5 + minute++ / 1440.0));
+}
+BENCHMARK(LibraryCallsBare);
+
+void Calculate(benchmark::State &state) {
+  MemoryUserSettings settings;
+  Clock clock;
+  for (auto _ : state) {
+    clsPlanets chart(settings);
+    SetAgra(chart.clsPerson());
+    clock.Set(chart.clsPerson());
+    chart.Calculate();
+    benchmark::DoNotOptimize(chart.PlanetLongi(1));
+  }
+}
+BENCHMARK(Calculate);
+
+void SunRiseTimeOfANewChart(benchmark::State &state) {
+  MemoryUserSettings settings;
+  Clock clock;
+  for (auto _ : state) {
+    state.PauseTiming();
+    clsPlanets chart(settings);
+    SetAgra(chart.clsPerson());
+    clock.Set(chart.clsPerson());
+    chart.Calculate();
+    state.ResumeTiming();
+    benchmark::DoNotOptimize(chart.SunRiseTime());
+  }
+}
+BENCHMARK(SunRiseTimeOfANewChart);
+
+struct OpenSession {
+  OpenSession()
+      : paths(QStringLiteral(ORVANI_EPHE "/..")),
+        session(settings,
+                {OpenLanguageDb(paths, QStringLiteral("ENGLISH")), Database::OpenDatabase(paths.RecosPath(), Database::Mode::ReadOnly),
+                 Database::OpenDatabase(paths.DailyPath(), Database::Mode::ReadOnly)}) {
+    session.LoadLastPerson({});
+  }
+
+  AppPaths paths;
+  MemoryUserSettings settings;
+  SelvaniDailyMod session;
+};
+
+void BuildAnalysisAndFillMainPage(benchmark::State &state) {
+  OpenSession open;
+  QDateTime moment(QDate(2026, 11, 21), QTime(9, 0), Qt::UTC);
+  for (auto _ : state) {
+    moment = moment.addSecs(60);
+    open.session.BuildAnalysis(moment);
+    benchmark::DoNotOptimize(open.session.FillMainPage());
+  }
+}
+BENCHMARK(BuildAnalysisAndFillMainPage)->Unit(benchmark::kMillisecond);
+
+void OneGetHeadValue(benchmark::State &state) {
+  OpenSession open;
+  open.session.BuildAnalysis(QDateTime(QDate(2026, 11, 21), QTime(9, 0), Qt::UTC));
+  const clsPlanets &chart = open.session.TodayChart();
+  int tithi = 0;
+  for (auto _ : state) benchmark::DoNotOptimize(chart.GetHeadValue(1, 1 + tithi++ % 30, QStringLiteral("Tithi")));
+}
+BENCHMARK(OneGetHeadValue);
+
+}  // namespace

@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+// A place on the earth with its clock, as the stores keep it.
+struct PlaceRecord {
+  QString City, Country;
+  QString GMTDIFF;  // hours.minutes: "5.30" is five hours thirty minutes east
+  int LatDeg = 0, LatMT = 0, LongDeg = 0, LongMT = 0;
+  QString TextNS, TextEW;
+};
+
+// A person's birth as the store of persons keeps it.
+struct BirthRecord {
+  QString Name;
+  int Day = 0, Month = 0, Year = 0, Hour = 0, Minutes = 0, AMPM = 0;
+  int Sex = 0;
+  PlaceRecord place;
+  QString TimeCorr;  // decimal hours; empty for none
+};
+
+// A stored time difference (hours.minutes) as the chart takes it: decimal hours in the shortest text that reads back.
+// Throws ConversionError that names GMTDIFF for an empty or unreadable text.
+QString DecimalGmtDiff(const QString &stored);

@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#include "analysis/HoraPage.h"
+
+#include "analysis/TimeText.h"
+#include "engine/clsPlanets.h"
+
+HoraPage FillHoraPage(const clsPlanets &todayChart) {
+  HoraPage page;
+  const int weekday = todayChart.clsPerson().WeekDayOfBirth();
+  for (int hora = 1; hora <= 24; ++hora) {
+    const size_t i = static_cast<size_t>(hora - 1);
+    page.rows[i] = {todayChart.GetHoraStart(hora), clsPlanets::GetHoraType(hora, weekday)};
+    page.lblHoraTime[i] = TimeText(page.rows[i].startClock);
+    page.lblHoraName[i] = todayChart.GetHoraName(page.rows[i].type);
+  }
+  page.lblDayHoraHead = todayChart.GetHeadValue(1, QStringLiteral("DayHora"), QStringLiteral("Hora"));
+  page.lblNightHoraHead = todayChart.GetHeadValue(1, QStringLiteral("NightHora"), QStringLiteral("Hora"));
+  page.lblTimeRangeHead = page.lblTimeRangeHead2 = todayChart.GetHeadValue(1, QStringLiteral("TimeRange"), QStringLiteral("Gen"));
+  return page;
+}

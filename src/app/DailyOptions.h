@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#pragma once
+
+#include <QDateTime>
+#include <QString>
+#include <QStringList>
+#include <optional>
+
+#include "analysis/BirthRecord.h"
+
+// What one call of orvani-daily asks for.
+struct DailyOptions {
+  enum class Action { ShowDay, ListPersons, Help, Version };
+  enum class Form { Text, Json };
+
+  Action action = Action::ShowDay;
+  Form form = Form::Text;
+  QString appDir;
+  QString personName;                    // empty: the last person, else the first
+  std::optional<BirthRecord> birth;      // a person given on the line
+  std::optional<PlaceRecord> residence;  // a residence given on the line
+  std::optional<QDateTime> at;           // local moment at the residence; none: now
+  std::optional<int> ayanType, nodes, upagraha;
+  std::optional<QString> customAyan;  // decimal degrees
+  QString helpText;
+
+  // Throws UsageError with one sentence that names what is wrong and shows the right form.
+  static DailyOptions Parse(const QStringList &arguments);
+};

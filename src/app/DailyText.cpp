@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#include "app/DailyText.h"
+
+#include "analysis/PlanetTablePage.h"
+#include "analysis/SelvaniDailyMod.h"
+
+namespace {
+
+QString Cell(const QString &text, int width) { return text.leftJustified(width); }
+
+QString Rule(const QString &title) { return QStringLiteral("\n%1\n%2\n").arg(title, QString(title.size(), QLatin1Char('-'))); }
+
+QString Pair(const QString &head, const QString &value) { return QStringLiteral("  %1%2").arg(Cell(head, 14), value); }
+
+// Two captions side by side.
+QString Pairs(const QString &head1, const QString &value1, const QString &head2, const QString &value2) {
+  return Cell(Pair(head1, value1), 40) + Pair(head2, value2).mid(2) + QLatin1Char('\n');
+}
+
+QString PlanetTable(const QString &title, const clsPlanets &chart) {
+  const PlanetTablePage page = FillPlanets(chart);
+  const auto line = [](const QString &planet, const QString &sign, const QString &degrees, const QString &nakshatra, const QString &lord,
+                       const QString &pada, const QString &motion) {
+    const QString text = QStringLiteral("  ") + Cell(planet, 11) + Cell(sign, 12) + Cell(degrees, 10) + Cell(nakshatra, 18) +
+                         Cell(lord, 10) + Cell(pada, 6) + motion;
+    return text.trimmed().isEmpty() ? QString() : QStringLiteral("  ") + text.trimmed() + QLatin1Char('\n');
+  };
+  QString text = Rule(title);
+  text += line(page.lblPlntHead, page.lblRashiHead, page.lblPDegreeHead, page.lblPNakHead, page.lblPNakLHead, page.lblPadaHead,
+               page.lblDirHead);
+  for (const PlanetTablePage::Row &row : page.rows)
+    text += line(row.lblPlanets, row.lblRashi, row.lblDegrees, row.lblNak, row.lblNakLord, row.lblPad, row.lblDir);
+  return text;
+}
+
+}  // namespace
+
+QString DailyText(SelvaniDailyMod &session) {
+  const PersonHeader header = session.ShowPersonHeader();
+  const clsPerson &birth = session.BirthChart().clsPerson();
+  const OverviewPage page = session.FillMainPage();
+  const clsPlanets &today = session.TodayChart();
+
+  QString text = header.lblPersonName + QLatin1Char('\n');
+  text += QStringLiteral("  %1, %2\n").arg(header.lblBDate.simplified(), birth.GetBirthPlace());
+  text += QStringLiteral("  %1\n").arg(header.lblNowIn.simplified());
+  text += QStringLiteral("  %1\n").arg(session.NowInfo().simplified());
+
+  text += Rule(page.lblTodPanchang);
+  const int month = clsPlanets::VikramiMonth(today.PlanetLongi(1), today.clsPerson().GetBirthDate());
+  text += Pairs(page.lblDayHead, page.lblDayVal, page.lblSunRiseHead, page.lblSunriseVal);
+  text += Pairs(page.lblTithiHead, page.lblTithiVal, page.lblSunSetHead, page.lblSunsetVal);
+  text += Pairs(page.lblNakHead, page.lblNakVal, page.lblRahuKaalHead, page.lblRahuKaalVal);
+  text += Pairs(page.lblYogaHead, page.lblYogaVal, page.lblYamGhantaHead, page.lblYamghantaVal);
+  text += Pair(page.lblKaranHead, page.lblKaranVal) + QLatin1Char('\n');
+  text += Pair(today.GetGenText(QStringLiteral("HinduMonth")), today.GetVikramiMonth(month)) + QLatin1Char('\n');
+  text += Pair(page.lblCurDashaHead, page.lblCurDashaVal) + QLatin1Char('\n');
+
+  const auto title = [&](const char *key) { return today.GetHeadValue(11, QLatin1String(key), QStringLiteral("Gen")); };
+  text += PlanetTable(title("BirthPlanets"), session.BirthChart());
+  text += PlanetTable(title("TodayPlanets"), today);
+  return text;
+}

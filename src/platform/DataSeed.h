@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#pragma once
+
+#include "platform/AppPaths.h"
+
+#include <QCoreApplication>
+#include <QString>
+
+/// Fills the user's EPHE folder from an installed one, and brings it up to date after an upgrade.
+class DataSeed {
+  Q_DECLARE_TR_FUNCTIONS(DataSeed)
+
+ public:
+  /// Copies what is missing. When the data version (the file SEED) differs, texts, pictures and fonts are copied anew.
+  /// Persons, residences and settings are the user's: never overwritten, and a missing store comes back from its kept copy first.
+  /// An interrupted run is made good by the next.
+  /// @throws StoreError when a file cannot be copied
+  static void BringUpToDate(const QString &installedEphe, const AppPaths &user);
+};

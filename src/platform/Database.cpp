@@ -1,0 +1,236 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#include "platform/Database.h"
+
+#include "platform/Recordset.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QSqlError>
+#include <QSqlQuery>
+
+#include <algorithm>
+#include <array>
+#include <atomic>
+#include <utility>
+
+namespace {
+
+constexpr QByteArrayView kMagic("SQLite format 3\0", 16);
+
+// The store engine's result codes that the user can do something about.
+enum Result { kBusy = 5, kLocked = 6, kReadOnly = 8, kInputOutput = 10, kCorrupt = 11, kFull = 13, kCannotOpen = 14, kNotADatabase = 26 };
+
+std::atomic<int> busyTimeoutMs{2000};
+
+using Kind = StoreError::Kind;
+
+struct Wording {
+  Kind kind;
+  const char *sentence;
+};
+
+// One sentence for each way in which a store can refuse; %1 is its path.
+constexpr std::array kWordings{
+    Wording{Kind::Missing,
+            QT_TRANSLATE_NOOP("Database", "The data file \"%1\" is missing. Please put it back, or install the program again.")},
+    Wording{Kind::NotAFile,
+            QT_TRANSLATE_NOOP("Database",
+                              "There is a folder or a device at \"%1\" where a data file should be. Please move it away and "
+                              "put the data file there, or install the program again.")},
+    Wording{Kind::Unreadable,
+            QT_TRANSLATE_NOOP("Database",
+                              "The data file \"%1\" cannot be read with your user account. Please give yourself the right to read it.")},
+    Wording{Kind::ReadOnly,
+            QT_TRANSLATE_NOOP("Database",
+                              "The data file \"%1\" is read-only, so nothing can be saved in it. Please allow writing to the "
+                              "file and its folder.")},
+    Wording{Kind::Locked,
+            QT_TRANSLATE_NOOP("Database", "The data file \"%1\" is in use by another program. Please close that program and try again.")},
+    Wording{Kind::Foreign,
+            QT_TRANSLATE_NOOP("Database",
+                              "The file \"%1\" is not a data file of this program, and it was left as it is. Please move it away "
+                              "and put the right file there.")},
+    Wording{Kind::Damaged,
+            QT_TRANSLATE_NOOP("Database",
+                              "The data file \"%1\" is damaged, and it was left as it is. Please put a sound copy of it in its place.")},
+    Wording{Kind::NewerVersion, QT_TRANSLATE_NOOP("Database",
+                                                  "The data file \"%1\" was made by a newer version of this program. Please install that "
+                                                  "version, or put back a copy from before.")},
+    Wording{Kind::NoSpace,
+            QT_TRANSLATE_NOOP("Database",
+                              "The data file \"%1\" cannot be written because the disk is full or fails. Please make room on the "
+                              "disk and try again; nothing was changed.")},
+};
+
+StoreError Worded(Kind kind, const QString &path) {
+  const auto wording = std::find_if(kWordings.begin(), kWordings.end(), [kind](const Wording &entry) { return entry.kind == kind; });
+  Q_ASSERT(wording != kWordings.end());
+  return StoreError(QCoreApplication::translate("Database", wording->sentence).arg(QDir::toNativeSeparators(path)), kind);
+}
+
+// Everything that can be told before the store engine sees the file. It would make a missing file anew, wait on a pipe,
+// and take an empty file for an empty store.
+void CheckFile(const QString &path, Database::Mode mode) {
+  const QFileInfo info(path);
+  if (!info.exists()) {
+    throw Worded(Kind::Missing, path);
+  }
+  if (!info.isFile()) {
+    throw Worded(Kind::NotAFile, path);
+  }
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly)) {
+    throw Worded(Kind::Unreadable, path);
+  }
+  const QByteArray start = file.read(kMagic.size());
+  if (!kMagic.startsWith(start)) {
+    throw Worded(Kind::Foreign, path);
+  }
+  if (start.size() < kMagic.size()) {
+    throw Worded(Kind::Damaged, path);
+  }
+  if (mode == Database::Mode::ReadWrite && !info.isWritable()) {
+    throw Worded(Kind::ReadOnly, path);
+  }
+}
+
+// Qt hands a null QString on as NULL; an empty field of a form means an empty text.
+QVariant Bindable(const QVariant &value) {
+  return value.typeId() == QMetaType::QString && !value.isNull() && value.toString().isNull() ? QVariant(QStringLiteral("")) : value;
+}
+
+QString CheckedSchema(const QString &schema) {
+  static const QRegularExpression name(QStringLiteral("^[A-Za-z_][A-Za-z0-9_]*$"));
+  if (!name.match(schema).hasMatch()) {
+    throw UsageError(QCoreApplication::translate("Database", "\"%1\" cannot name an attached data file.").arg(schema));
+  }
+  return schema;
+}
+
+}  // namespace
+
+std::shared_ptr<Database> Database::OpenDatabase(const QString &path, Mode mode) {
+  CheckFile(path, mode);
+  const std::shared_ptr<Database> database(new Database(path, mode));
+  if (!database->handle_.open()) {
+    throw Worded(Kind::Unreadable, path);
+  }
+  database->Verify(QStringLiteral("main"), path);
+  database->Execute(QStringLiteral("PRAGMA foreign_keys = ON"));
+  database->Execute(QStringLiteral("PRAGMA synchronous = FULL"));
+  if (mode == Mode::ReadWrite) {
+    // Only with a rollback journal is a change over two files one change. Some tools leave a file in another journal mode.
+    QSqlQuery query(database->handle_);
+    query.exec(QStringLiteral("PRAGMA journal_mode = DELETE"));
+  }
+  return database;
+}
+
+void Database::SetBusyTimeout(int milliseconds) { busyTimeoutMs = milliseconds; }
+
+Database::Database(QString path, Mode mode) : path_(std::move(path)), mode_(mode) {
+  static std::atomic<int> opened{0};
+  connection_ = QStringLiteral("orvani-store-%1").arg(++opened);
+  handle_ = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), connection_);
+  handle_.setDatabaseName(path_);
+  QString options = QStringLiteral("QSQLITE_BUSY_TIMEOUT=%1").arg(busyTimeoutMs.load());
+  if (mode_ == Mode::ReadOnly) {
+    options += QStringLiteral(";QSQLITE_OPEN_READONLY");
+  }
+  handle_.setConnectOptions(options);
+}
+
+Database::~Database() {
+  handle_.close();
+  handle_ = QSqlDatabase();  // Qt wants the last handle gone before the connection goes
+  QSqlDatabase::removeDatabase(connection_);
+}
+
+void Database::Verify(const QString &schema, const QString &path) const {
+  if (Pragma(schema, "application_id", path) != kApplicationId) {
+    throw Worded(Kind::Foreign, path);
+  }
+  if (Pragma(schema, "user_version", path) > kNewestVersion) {
+    throw Worded(Kind::NewerVersion, path);
+  }
+  QSqlQuery check(handle_);
+  if (!check.exec(QStringLiteral("PRAGMA %1.quick_check(1)").arg(schema)) || !check.next()) {
+    throw Failure(check, path);
+  }
+  if (check.value(0).toString() != QLatin1String("ok")) {
+    throw Worded(Kind::Damaged, path);
+  }
+}
+
+qlonglong Database::Pragma(const QString &schema, const char *name, const QString &path) const {
+  QSqlQuery query(handle_);
+  if (!query.exec(QStringLiteral("PRAGMA %1.%2").arg(schema, QLatin1String(name))) || !query.next()) {
+    throw Failure(query, path);
+  }
+  return query.value(0).toLongLong();
+}
+
+Recordset Database::OpenRecordset(const QString &sql, const QVariantList &bound) { return Recordset(shared_from_this(), sql, bound); }
+
+int Database::Execute(const QString &sql, const QVariantList &bound) {
+  QSqlQuery query(handle_);
+  Run(query, sql, bound);
+  return query.numRowsAffected();
+}
+
+void Database::Run(QSqlQuery &query, const QString &sql, const QVariantList &bound) const {
+  bool good = query.prepare(sql);
+  for (const QVariant &value : bound) {
+    query.addBindValue(Bindable(value));
+  }
+  good = good && query.exec();
+  if (!good) {
+    throw Failure(query);
+  }
+}
+
+void Database::Attach(const QString &path, const QString &schema) {
+  CheckedSchema(schema);
+  CheckFile(path, mode_);
+  Execute(QStringLiteral("ATTACH DATABASE ? AS %1").arg(schema), {path});
+  attached_.insert(schema, path);
+  try {
+    Verify(schema, path);
+  } catch (const StoreError &) {
+    Detach(schema);
+    throw;
+  }
+}
+
+void Database::Detach(const QString &schema) {
+  Execute(QStringLiteral("DETACH DATABASE %1").arg(CheckedSchema(schema)));
+  attached_.remove(schema);
+}
+
+StoreError Database::Failure(const QSqlQuery &query) const {
+  // The engine does not tell which of several files refused.
+  QStringList paths{path_};
+  paths += attached_.values();
+  return Failure(query, paths.join(QStringLiteral("\" or \"")));
+}
+
+StoreError Database::Failure(const QSqlQuery &query, const QString &path) const {
+  switch (query.lastError().nativeErrorCode().toInt() & 0xFF) {
+    case kBusy:
+    case kLocked: return Worded(Kind::Locked, path);
+    case kReadOnly:
+    case kCannotOpen:  // the journal beside the file could not be made
+      return Worded(Kind::ReadOnly, path);
+    case kInputOutput:
+    case kFull: return Worded(Kind::NoSpace, path);
+    case kCorrupt:
+    case kNotADatabase:  // the file's first bytes were right, so it was one
+      return Worded(Kind::Damaged, path);
+    default:
+      return StoreError(
+          tr("The data file \"%1\" refused a request: %2.").arg(QDir::toNativeSeparators(path), query.lastError().databaseText()));
+  }
+}

@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#pragma once
+
+#include "platform/Errors.h"
+
+#include <QCoreApplication>
+#include <QMap>
+#include <QSqlDatabase>
+#include <QString>
+#include <QVariant>
+
+#include <memory>
+
+class Recordset;
+class QSqlQuery;
+
+/// One open store file. Lives as long as its last owner; recordsets and text servers are owners too.
+/// Values are always bound ("?" in the text), never put into the text: a person called O'Brien is a value like any other.
+class Database : public std::enable_shared_from_this<Database> {
+  Q_DECLARE_TR_FUNCTIONS(Database)
+
+ public:
+  enum class Mode { ReadWrite, ReadOnly };
+
+  /// "ORVA": the mark by which the program knows its own stores.
+  static constexpr int kApplicationId = 0x4F525641;
+  /// The newest arrangement of tables that this program understands.
+  static constexpr int kNewestVersion = 1;
+
+  /// Opens an existing store after checking that it is one of ours and sound; never makes a file.
+  /// @throws StoreError with a sentence that names the file and says what to do
+  static std::shared_ptr<Database> OpenDatabase(const QString &path, Mode mode = Mode::ReadWrite);
+
+  /// How long to wait for another program's lock, in milliseconds, for stores opened from now on. 2000 at start.
+  static void SetBusyTimeout(int milliseconds);
+
+  ~Database();
+  Database(const Database &) = delete;
+  Database &operator=(const Database &) = delete;
+
+  const QString &Path() const { return path_; }
+  Mode OpenMode() const { return mode_; }
+
+  /// Runs a selection and reads all its rows at once. `sql` may also be the bare name of a table or of a stored query (view).
+  /// Rows can be edited when the selection is a plain one of one table ("SELECT * FROM t WHERE ... ORDER BY ...", or a view of that form).
+  Recordset OpenRecordset(const QString &sql, const QVariantList &bound = {});
+
+  /// Runs one statement that gives no rows; returns the number of rows that an INSERT, UPDATE or DELETE changed.
+  int Execute(const QString &sql, const QVariantList &bound = {});
+
+  /// For prepared queries that are kept. Let go of the handle and its queries before the last owner of this object goes.
+  QSqlDatabase Handle() const { return handle_; }
+
+  /// Makes the tables of another store reachable as schema.Table, so that one Transaction covers both files.
+  /// Not inside a transaction. The other file is checked like one that is opened.
+  void Attach(const QString &path, const QString &schema);
+  void Detach(const QString &schema);
+
+  /// The sentence for a failed query on this store, by the reason that the store engine gave.
+  StoreError Failure(const QSqlQuery &query) const;
+
+ private:
+  Database(QString path, Mode mode);
+
+  friend class Recordset;
+
+  void Run(QSqlQuery &query, const QString &sql, const QVariantList &bound) const;
+  StoreError Failure(const QSqlQuery &query, const QString &path) const;
+  void Verify(const QString &schema, const QString &path) const;
+  qlonglong Pragma(const QString &schema, const char *name, const QString &path) const;
+
+  QString path_;
+  Mode mode_;
+  QString connection_;
+  QSqlDatabase handle_;
+  QMap<QString, QString> attached_;  // path by schema name
+};

@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#include "platform/FileTools.h"
+
+#include "platform/Errors.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+namespace {
+
+QString Tr(const char *text) { return QCoreApplication::translate("FileTools", text); }
+
+[[noreturn]] void ThrowNotWritten(const QString &path, const QString &reason) {
+  throw StoreError(Tr(QT_TRANSLATE_NOOP("FileTools",
+                                        "The file \"%1\" cannot be written (%2). Please check that its folder may be written to and that "
+                                        "the disk is not full."))
+                       .arg(QDir::toNativeSeparators(path), reason),
+                   StoreError::Kind::ReadOnly);
+}
+
+}  // namespace
+
+QByteArray ReadWholeFile(const QString &path) {
+  QFile file(path);
+  QByteArray content;
+  if (file.open(QIODevice::ReadOnly)) {
+    content = file.readAll();
+  }
+  if (file.error() != QFileDevice::NoError) {
+    throw StoreError(
+        Tr(QT_TRANSLATE_NOOP("FileTools", "The file \"%1\" cannot be read (%2). Please check that it is there and that you may read it."))
+            .arg(QDir::toNativeSeparators(path), file.errorString()),
+        StoreError::Kind::Unreadable);
+  }
+  return content;
+}
+
+void WriteWholeFile(const QString &path, const QByteArray &content) {
+  const QString folder = QFileInfo(path).absolutePath();
+  if (!QDir().mkpath(folder)) {
+    ThrowNotWritten(path, Tr(QT_TRANSLATE_NOOP("FileTools", "its folder cannot be made")));
+  }
+  QSaveFile file(path);
+  if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.commit()) {
+    ThrowNotWritten(path, file.errorString());
+  }
+}

@@ -1,0 +1,122 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#include "platform/UserSettings.h"
+
+#include "platform/Errors.h"
+
+#include <QSettings>
+#include <QStandardPaths>
+
+namespace {
+
+bool IsTrue(const QString &text) {
+  const QString plain = text.trimmed();
+  return plain.compare(QLatin1String("True"), Qt::CaseInsensitive) == 0 || plain == QLatin1String("1") || plain == QLatin1String("-1");
+}
+
+// The spelling under which the name is already stored, so that it stays one entry.
+QString StoredSpelling(const QStringList &names, const QString &name) {
+  for (const QString &stored : names) {
+    if (stored.compare(name, Qt::CaseInsensitive) == 0) {
+      return stored;
+    }
+  }
+  return name;
+}
+
+}  // namespace
+
+QString UserSettings::Value(const QString &section, const QString &key, const QString &fallback) const {
+  return Stored(section, key).value_or(fallback);
+}
+
+int UserSettings::IntValue(const QString &section, const QString &key, int fallback) const {
+  bool isNumber = false;
+  const int number = Value(section, key).trimmed().toInt(&isNumber);
+  return isNumber ? number : fallback;
+}
+
+bool UserSettings::BoolValue(const QString &section, const QString &key, bool fallback) const {
+  const std::optional<QString> stored = Stored(section, key);
+  return stored ? IsTrue(*stored) : fallback;
+}
+
+QString UserSettings::Value(const SettingKey &key) const {
+  return Value(QLatin1String(key.section), QLatin1String(key.key), QLatin1String(key.fallback));
+}
+
+int UserSettings::IntValue(const SettingKey &key) const {
+  return IntValue(QLatin1String(key.section), QLatin1String(key.key), QString(QLatin1String(key.fallback)).toInt());
+}
+
+bool UserSettings::BoolValue(const SettingKey &key) const {
+  return BoolValue(QLatin1String(key.section), QLatin1String(key.key), IsTrue(QLatin1String(key.fallback)));
+}
+
+void UserSettings::SetValue(const SettingKey &key, const QString &value) {
+  SetValue(QLatin1String(key.section), QLatin1String(key.key), value);
+}
+
+void UserSettings::SetIntValue(const SettingKey &key, int value) { SetValue(key, QString::number(value)); }
+
+void UserSettings::SetBoolValue(const SettingKey &key, bool value) {
+  SetValue(key, value ? QStringLiteral("True") : QStringLiteral("False"));
+}
+
+FileUserSettings::FileUserSettings(const QString &path)
+    : file_(std::make_unique<QSettings>(
+          path.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + QStringLiteral("/orvani/orvani.conf")
+                         : path,
+          QSettings::IniFormat)) {}
+
+FileUserSettings::~FileUserSettings() = default;
+
+QString FileUserSettings::Path() const { return file_->fileName(); }
+
+QString FileUserSettings::FullKey(const QString &section, const QString &key) const {
+  const QString storedSection = StoredSpelling(file_->childGroups(), section);
+  file_->beginGroup(storedSection);
+  const QString storedKey = StoredSpelling(file_->childKeys(), key);
+  file_->endGroup();
+  return storedSection + u'/' + storedKey;
+}
+
+std::optional<QString> FileUserSettings::Stored(const QString &section, const QString &key) const {
+  const QVariant value = file_->value(FullKey(section, key));
+  if (!value.isValid()) {
+    return std::nullopt;
+  }
+  // A comma in a hand-written value makes the reader see a list.
+  return value.typeId() == QMetaType::QStringList ? value.toStringList().join(QStringLiteral(", ")) : value.toString();
+}
+
+void FileUserSettings::SetValue(const QString &section, const QString &key, const QString &value) {
+  file_->setValue(FullKey(section, key), value);
+  file_->sync();
+  if (file_->status() == QSettings::AccessError) {
+    throw StoreError(tr("The settings file \"%1\" cannot be written. Please allow writing to the file and its folder.").arg(Path()),
+                     StoreError::Kind::ReadOnly);
+  }
+}
+
+namespace {
+
+QString MemoryKey(const QString &section, const QString &key) { return section.toLower() + u'\n' + key.toLower(); }
+
+}  // namespace
+
+std::optional<QString> MemoryUserSettings::Stored(const QString &section, const QString &key) const {
+  const auto found = values_.constFind(MemoryKey(section, key));
+  return found == values_.constEnd() ? std::nullopt : std::optional<QString>(*found);
+}
+
+void MemoryUserSettings::SetValue(const QString &section, const QString &key, const QString &value) {
+  values_.insert(MemoryKey(section, key), value);
+}
+
+std::optional<QString> OverlaySettings::Stored(const QString &section, const QString &key) const {
+  const std::optional<QString> own = above_.Stored(section, key);
+  return own ? own : below_.Stored(section, key);
+}
+
+void OverlaySettings::SetValue(const QString &section, const QString &key, const QString &value) { above_.SetValue(section, key, value); }

@@ -1,0 +1,87 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#pragma once
+
+#include "platform/SettingKeys.h"
+
+#include <QCoreApplication>
+#include <QHash>
+#include <QString>
+
+#include <memory>
+#include <optional>
+
+class QSettings;
+
+/// The per-user store of settings, by section and key, all values texts. Sections and keys compare without regard to case:
+/// the chart style is written as "Kundstyle" in one place and read as "KundStyle" in another.
+class UserSettings {
+ public:
+  virtual ~UserSettings() = default;
+
+  /// The stored text, or nothing when the key was never stored.
+  virtual std::optional<QString> Stored(const QString &section, const QString &key) const = 0;
+  /// @throws StoreError when the value cannot be kept
+  virtual void SetValue(const QString &section, const QString &key, const QString &value) = 0;
+
+  QString Value(const QString &section, const QString &key, const QString &fallback = QString()) const;
+  /// A text that is no whole number gives the fallback.
+  int IntValue(const QString &section, const QString &key, int fallback) const;
+  /// "True" in any case, "1" and "-1" are true; any other stored text is false.
+  bool BoolValue(const QString &section, const QString &key, bool fallback) const;
+
+  QString Value(const SettingKey &key) const;
+  int IntValue(const SettingKey &key) const;
+  bool BoolValue(const SettingKey &key) const;
+  void SetValue(const SettingKey &key, const QString &value);
+  void SetIntValue(const SettingKey &key, int value);
+  /// Stores "True" or "False".
+  void SetBoolValue(const SettingKey &key, bool value);
+};
+
+/// Settings in a file of the user's configuration folder; each write is on disk when the call returns.
+class FileUserSettings : public UserSettings {
+  Q_DECLARE_TR_FUNCTIONS(FileUserSettings)
+
+ public:
+  /// @param path the file; empty for orvani/orvani.conf in the user's configuration folder
+  explicit FileUserSettings(const QString &path = QString());
+  ~FileUserSettings() override;
+
+  using UserSettings::SetValue;
+  std::optional<QString> Stored(const QString &section, const QString &key) const override;
+  void SetValue(const QString &section, const QString &key, const QString &value) override;
+
+  QString Path() const;
+
+ private:
+  QString FullKey(const QString &section, const QString &key) const;
+
+  std::unique_ptr<QSettings> file_;
+};
+
+/// Settings that live as long as the object, for tests.
+class MemoryUserSettings : public UserSettings {
+ public:
+  using UserSettings::SetValue;
+  std::optional<QString> Stored(const QString &section, const QString &key) const override;
+  void SetValue(const QString &section, const QString &key, const QString &value) override;
+
+ private:
+  QHash<QString, QString> values_;
+};
+
+/// Reads through to the settings below and keeps writes to itself, so that one run can choose an ayanamsha without changing the user's.
+class OverlaySettings : public UserSettings {
+ public:
+  /// `below` must outlive this object.
+  explicit OverlaySettings(const UserSettings &below) : below_(below) {}
+
+  using UserSettings::SetValue;
+  std::optional<QString> Stored(const QString &section, const QString &key) const override;
+  void SetValue(const QString &section, const QString &key, const QString &value) override;
+
+ private:
+  const UserSettings &below_;
+  MemoryUserSettings above_;
+};

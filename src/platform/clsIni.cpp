@@ -1,0 +1,138 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#include "platform/clsIni.h"
+
+#include "platform/Errors.h"
+#include "platform/FileTools.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <optional>
+
+namespace {
+
+const QString kDefaultSection = QStringLiteral("Orvani");
+const QString kDefaultFile = QStringLiteral("GENDAT.INI");
+
+bool Same(const QString &a, const QString &b) { return a.compare(b, Qt::CaseInsensitive) == 0; }
+
+// The file as lines of bytes: what is not changed goes back exactly as it was, also in another encoding.
+class IniText {
+ public:
+  explicit IniText(QByteArray content) {
+    if (content.startsWith("\xEF\xBB\xBF")) {
+      mark_ = content.first(3);
+      content.remove(0, 3);
+    }
+    lineEnd_ = content.contains("\r\n") ? "\r\n" : "\n";
+    lines_ = content.split('\n');
+    for (QByteArray &line : lines_) {
+      if (line.endsWith('\r')) {
+        line.chop(1);
+      }
+    }
+    if (lines_.last().isEmpty()) {
+      lines_.removeLast();
+    }
+  }
+
+  std::optional<QString> Value(const QString &section, const QString &key) const {
+    const Place place = Find(section, key);
+    return place.line < 0 ? std::nullopt : std::optional<QString>(Split(lines_[place.line]).second);
+  }
+
+  void SetValue(const QString &section, const QString &key, const QString &value) {
+    const Place place = Find(section, key);
+    if (place.line >= 0) {
+      // The key keeps the spelling and the indent that someone gave it.
+      const QByteArray &line = lines_[place.line];
+      lines_[place.line] = line.first(line.indexOf('=') + 1) + value.toUtf8();
+      return;
+    }
+    int at = place.afterSection;
+    if (at < 0) {
+      if (!lines_.isEmpty()) {
+        lines_.append(QByteArray());
+      }
+      lines_.append('[' + section.toUtf8() + ']');
+      at = static_cast<int>(lines_.size());
+    }
+    lines_.insert(at, key.toUtf8() + '=' + value.toUtf8());
+  }
+
+  QByteArray Content() const { return mark_ + lines_.join(lineEnd_) + lineEnd_; }
+
+ private:
+  struct Place {
+    int line = -1;          // of the key
+    int afterSection = -1;  // behind the last filled line of the first section of that name
+  };
+
+  // Key and value of a line; the key is empty for anything that is no entry.
+  static std::pair<QString, QString> Split(const QByteArray &line) {
+    const auto equals = line.indexOf('=');
+    const QByteArray start = line.trimmed();
+    if (equals < 0 || start.startsWith(';') || start.startsWith('#') || start.startsWith('[')) {
+      return {};
+    }
+    return {QString::fromUtf8(line.first(equals)).trimmed(), QString::fromUtf8(line.sliced(equals + 1)).trimmed()};
+  }
+
+  Place Find(const QString &section, const QString &key) const {
+    Place place;
+    bool inside = false;
+    bool isFirst = true;
+    for (int i = 0; i < lines_.size(); ++i) {
+      const QByteArray line = lines_[i].trimmed();
+      if (line.startsWith('[') && line.contains(']')) {
+        isFirst = isFirst && place.afterSection < 0;
+        inside = Same(QString::fromUtf8(line.sliced(1, line.indexOf(']') - 1)).trimmed(), section);
+      } else if (inside && Same(Split(lines_[i]).first, key)) {
+        place.line = i;
+        return place;
+      }
+      if (inside && isFirst && !line.isEmpty()) {
+        place.afterSection = i + 1;
+      }
+    }
+    return place;
+  }
+
+  QByteArray mark_;
+  QByteArray lineEnd_;
+  QByteArrayList lines_;
+};
+
+}  // namespace
+
+QString clsIni::FilePath(const QString &file) const {
+  const QString name = file.isEmpty() ? kDefaultFile : file;
+  return QDir::isAbsolutePath(name) ? name : paths_.Ephe(QStringLiteral("INIFILES/") + name);
+}
+
+QString clsIni::GetIniString(const QString &key, const QString &defaultValue, const QString &section, const QString &file) const {
+  const QString path = FilePath(file);
+  if (!QFileInfo::exists(path)) {
+    return defaultValue.left(kLongestValue);
+  }
+  const IniText text(ReadWholeFile(path));
+  return text.Value(section.isEmpty() ? kDefaultSection : section, key.trimmed()).value_or(defaultValue).left(kLongestValue);
+}
+
+void clsIni::WriteIniString(const QString &key, const QString &value, const QString &section, const QString &file) const {
+  const QString name = section.isEmpty() ? kDefaultSection : section;
+  // Such a key could be written and never be found again.
+  const QString first = key.trimmed().left(1);
+  if (first.isEmpty() || QStringLiteral(";#[").contains(first) || key.contains(u'=') || key.contains(u'\n') || name.contains(u']') ||
+      name.contains(u'\n')) {
+    throw UsageError(tr("\"%1\" in section \"%2\" cannot name an entry of the configuration file.").arg(key, name));
+  }
+  QString line = value;
+  line.replace(QStringLiteral("\r\n"), QStringLiteral(" ")).replace(u'\n', u' ').replace(u'\r', u' ');
+
+  const QString path = FilePath(file);
+  IniText text(QFileInfo::exists(path) ? ReadWholeFile(path) : QByteArray());
+  text.SetValue(name.trimmed(), key.trimmed(), line);
+  WriteWholeFile(path, text.Content());
+}

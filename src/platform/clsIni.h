@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#pragma once
+
+#include "platform/AppPaths.h"
+
+#include <QCoreApplication>
+#include <QString>
+
+/// Reads and writes the configuration file GENDAT.INI (UTF-8, sections in brackets, key=value). Sections and keys compare without regard
+/// to case. A write changes one line and leaves comments, unknown lines and the order as they are.
+class clsIni {
+  Q_DECLARE_TR_FUNCTIONS(clsIni)
+
+ public:
+  /// Longest value that a read gives, in characters.
+  static constexpr int kLongestValue = 255;
+
+  explicit clsIni(AppPaths paths) : paths_(std::move(paths)) {}
+
+  /// The value under the key, trimmed, or `defaultValue` when file, section or key is not there.
+  /// @param section empty for "Orvani"
+  /// @param file empty for GENDAT.INI; a bare name lies beside it
+  /// @throws StoreError when the file is there and cannot be read
+  QString GetIniString(const QString &key, const QString &defaultValue, const QString &section = QString(),
+                       const QString &file = QString()) const;
+
+  /// Sets the value; makes section, file and folder when they are missing. Line breaks in the value become blanks.
+  /// @throws StoreError when the file cannot be written; it is then as it was
+  void WriteIniString(const QString &key, const QString &value, const QString &section = QString(), const QString &file = QString()) const;
+
+ private:
+  QString FilePath(const QString &file) const;
+
+  AppPaths paths_;
+};

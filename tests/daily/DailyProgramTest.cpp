@@ -1,0 +1,172 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+// orvani-daily as its users call it: what it prints, and what it says to a wrong call.
+#include <gtest/gtest.h>
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+
+#include "platform/Database.h"
+#include "support/DataFolder.h"
+
+namespace {
+
+struct Answer {
+  int code = -1;
+  QByteArray out, err;
+};
+
+class DailyProgram : public testing::Test {
+ protected:
+  Answer Call(QStringList arguments) {
+    arguments << "--app-dir" << data.Path();
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("XDG_CONFIG_HOME", config.path());
+    process.setProcessEnvironment(environment);
+    process.start(QStringLiteral(ORVANI_DAILY), arguments);
+    process.waitForFinished(60000);
+    return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
+  }
+
+  DataFolder data;
+  QTemporaryDir config;
+};
+
+const QStringList Birth{"--birth", "1980-07-23 10:50", "--lat", "27.09N", "--long", "78.00E", "--gmt", "+05.30"};
+
+}  // namespace
+
+TEST_F(DailyProgram, PrintsTheDay) {
+  const Answer list = Call({"--list"});
+  EXPECT_EQ(list.code, 0);
+  EXPECT_EQ(list.out, "Anvik Telvar\n");
+  const Answer day = Call({"--at", "2026-11-21 09:00"});
+  EXPECT_EQ(day.code, 0) << day.err.constData();
+  for (const char *part : {"Anvik Telvar", "Agra", "Saturday", "Shukla Dvadashi", "Revati", "Rahu Kaal", "9:16 AM-10:50 AM",
+                           "13:20 PM-14:55 PM", "Ven-Sat-Mer", "14:31:25"})
+    EXPECT_TRUE(day.out.contains(part)) << part << "\n" << day.out.constData();
+  for (const QByteArray &line : day.out.split('\n')) EXPECT_LE(QString::fromUtf8(line).size(), 80) << line.constData();
+  EXPECT_EQ(day.err, "");
+}
+
+TEST_F(DailyProgram, GivesTheSameChartForAPersonOnTheLine) {
+  const QJsonObject stored = QJsonDocument::fromJson(Call({"--json", "--at", "2026-11-21 09:00"}).out).object();
+  const QJsonObject given = QJsonDocument::fromJson(Call(QStringList(Birth) << "--json"
+                                                                            << "--at"
+                                                                            << "2026-11-21 09:00")
+                                                        .out)
+                                .object();
+  EXPECT_EQ(stored["birth"], given["birth"]);
+  EXPECT_EQ(stored["day"], given["day"]);
+  EXPECT_EQ(stored["dasha"], given["dasha"]);
+  EXPECT_NEAR(stored["birth"]["PlanetLongi"][1].toDouble(), 96.916919, 1e-3);
+
+  for (const char *chart : {"birth", "day"}) {
+    const QJsonObject object = stored[QLatin1String(chart)].toObject();
+    const std::pair<const char *, int> arrays[] = {{"PlanetLongi", 26}, {"BhavMid", 13},    {"BhavBegin", 13},  {"KPHouse", 13},
+                                                   {"RetroGrade", 13},  {"NakOf", 13},      {"PrediVarga", 17}, {"Hora", 24},
+                                                   {"Chogadiya", 16},   {"EvilMuhurtha", 4}};
+    for (const auto &[name, size] : arrays) EXPECT_EQ(object[QLatin1String(name)].toArray().size(), size) << name;
+    for (const char *name : {"Obliq", "SidrealTime", "Tithi", "Pada", "YogaNumber", "KaranNumber", "VikramiMonth", "Nakshatra",
+                             "WeekDayOfBirth", "SunRiseTime", "SunSetTime", "DayDuration", "NightDuration"})
+      EXPECT_TRUE(object[QLatin1String(name)].isDouble()) << name;
+    EXPECT_TRUE(object["DayBirth"].isBool());
+    for (const char *name : {"tithi", "nakshatra", "yoga", "karana", "month", "weekday", "sign"})
+      EXPECT_FALSE(object["names"][QLatin1String(name)].toString().isEmpty()) << name;
+  }
+  EXPECT_EQ(stored["dasha"]["mahadasha"].toArray().size(), 9);
+  EXPECT_TRUE(stored["dasha"]["current"].toString().endsWith(':'));
+  EXPECT_EQ(stored["overview"]["lblSunriseVal"], "6:46 AM");
+}
+
+TEST_F(DailyProgram, ChoosesForOneRunAlone) {
+  const QByteArray before = Call({"--json", "--at", "2026-11-21 09:00"}).out;
+  const QJsonObject chosen = QJsonDocument::fromJson(Call(QStringList(Birth) << "--json"
+                                                                             << "--at"
+                                                                             << "2026-11-21 09:00"
+                                                                             << "--custom-ayan"
+                                                                             << "0"
+                                                                             << "--nodes"
+                                                                             << "2"
+                                                                             << "--upagraha"
+                                                                             << "2"
+                                                                             << "--corr"
+                                                                             << "+01.00"
+                                                                             << "--res-lat"
+                                                                             << "33.52S"
+                                                                             << "--res-long"
+                                                                             << "151.12E"
+                                                                             << "--res-gmt"
+                                                                             << "+11.00")
+                                                         .out)
+                                 .object();
+  EXPECT_EQ(chosen["settings"]["AyanType"], 13);
+  EXPECT_EQ(chosen["birth"]["PlanetLongi"][13], 0);
+  EXPECT_EQ(chosen["residence"]["TextNS"], "S");
+  EXPECT_EQ(chosen["residence"]["GMTDIFF"], "11");
+  EXPECT_EQ(chosen["person"]["Hour"], 11) << "the correction stays in the record";
+  EXPECT_EQ(Call({"--json", "--at", "2026-11-21 09:00"}).out, before) << "no setting was kept";
+}
+
+TEST_F(DailyProgram, AnswersAWrongCallInOneLine) {
+  const std::pair<QStringList, const char *> rows[] = {
+      {{"--colour"}, "colour"},
+      {{"tomorrow"}, "'tomorrow'"},
+      {{"--person", "Nobody"}, "'Nobody'"},
+      {{"--at", "2026-02-30 10:00"}, "2026-02-30 10:00"},
+      {{"--at", "noon"}, "noon"},
+      {{"--at"}, "at"},
+      {{"--ayan", "14"}, "14"},
+      {{"--nodes", "3"}, "--nodes '3'"},
+      {{"--upagraha", "x"}, "--upagraha 'x'"},
+      {{"--custom-ayan", "1,5"}, "1,5"},
+      {{"--ayan", "2", "--custom-ayan", "1"}, "--ayan 13"},
+      {{"--lat", "27.09N"}, "--birth"},
+      {{"--birth", "1980-07-23 10:50", "--lat", "27.09N"}, "--long is missing"},
+      {{"--birth", "1980-07-23 10:50", "--lat", "97.09N", "--long", "78.00E", "--gmt", "+05.30"}, "97.09N"},
+      {{"--birth", "1980-07-23 10:50", "--lat", "27.69N", "--long", "78.00E", "--gmt", "+05.30"}, "27.69N"},
+      {{"--birth", "1980-07-23 10:50", "--lat", "27.09N", "--long", "78.00", "--gmt", "+05.30"}, "78.00E"},
+      {{"--birth", "1980-07-23 10:50", "--lat", "27.09N", "--long", "78.00E", "--gmt", "IST"}, "IST"},
+      {{"--res-lat", "27.09N"}, "--res-long is missing"},
+      {QStringList(Birth) << "--person"
+                          << "Anvik Telvar",
+       "--person and --birth"},
+      {{"--json", "--text"}, "--json and --text"},
+  };
+  for (const auto &[arguments, named] : rows) {
+    const Answer answer = Call(arguments);
+    const std::string call = arguments.join(' ').toStdString();
+    EXPECT_EQ(answer.code, 2) << call;
+    EXPECT_EQ(answer.out, "") << call;
+    EXPECT_EQ(answer.err.count('\n'), 1) << call << ": " << answer.err.constData();
+    EXPECT_TRUE(answer.err.startsWith("orvani-daily: ") && answer.err.contains(named)) << call << ": " << answer.err.constData();
+  }
+}
+
+TEST_F(DailyProgram, TellsAFailingStore) {
+  const std::pair<const char *, const char *> rows[] = {
+      {"COMMON/SADESAT.Dat", "SADESAT"}, {"ENGLISH/ENGLISH.DAT", "English"}, {"COMMON/RECOS.Dat", "RECOS"}};
+  for (const auto &[file, named] : rows) {
+    const QString path = data.File(file);
+    QFile::rename(path, path + ".away");
+    const Answer answer = Call({});
+    EXPECT_EQ(answer.code, 1) << file << answer.err.constData();
+    EXPECT_TRUE(answer.err.contains(named)) << answer.err.constData();
+    QFile::rename(path + ".away", path);
+  }
+  QFile damaged(data.File("COMMON/RECOS.Dat"));
+  ASSERT_TRUE(damaged.open(QIODevice::WriteOnly));
+  damaged.write("not a store");
+  damaged.close();
+  EXPECT_EQ(Call({"--list"}).code, 1);
+}
+
+TEST_F(DailyProgram, HelpsAndTellsItsVersion) {
+  EXPECT_TRUE(Call({"--help"}).out.contains("--person"));
+  const Answer version = Call({"--version"});
+  EXPECT_EQ(version.code, 0);
+  EXPECT_TRUE(version.out.contains("Swiss Ephemeris files")) << version.out.constData();
+}

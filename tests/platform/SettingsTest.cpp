@@ -1,0 +1,95 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#include "StoreFixture.h"
+
+#include "platform/UserSettings.h"
+#include "platform/clsIni.h"
+
+namespace {
+
+class SettingsTest : public StoreFixture {};
+
+TEST_F(SettingsTest, FileSettingsOutliveTheirObjectAndIgnoreCase) {
+  const QString path = At("made/orvani.conf");
+  {
+    FileUserSettings settings(path);
+    EXPECT_EQ(settings.IntValue(SettingKeys::AyanType), 1);
+    EXPECT_FALSE(settings.BoolValue(SettingKeys::DoneSetup));
+    settings.SetValue("Init", "Kundstyle", "2");
+    settings.SetValue("init", "KundStyle", "1");
+    settings.SetBoolValue(SettingKeys::DoneSetup, true);
+    settings.SetValue("Init", "CustAyan", "23,5; \"x\" = O'Brien");
+  }
+  const FileUserSettings settings(path);
+  EXPECT_EQ(settings.Value("INIT", "KUNDSTYLE"), "1");
+  EXPECT_EQ(ReadWholeFile(path).toLower().count("kundstyle"), 1) << "two spellings are one entry";
+  EXPECT_TRUE(settings.BoolValue(SettingKeys::DoneSetup));
+  EXPECT_EQ(settings.Value(SettingKeys::CustAyan), "23,5; \"x\" = O'Brien");
+
+  WriteWholeFile(At("file"), "");
+  FileUserSettings unwritable(At("file/orvani.conf"));
+  EXPECT_THROW(unwritable.SetValue(SettingKeys::AyanType, "3"), StoreError);
+}
+
+TEST_F(SettingsTest, AnOverlayKeepsItsWritesAndOddTextsFallBack) {
+  MemoryUserSettings below;
+  below.SetIntValue(SettingKeys::AyanType, 3);
+  OverlaySettings above(below);
+  EXPECT_EQ(above.IntValue(SettingKeys::AyanType), 3);
+  above.SetIntValue(SettingKeys::AyanType, 12);
+  EXPECT_EQ(above.IntValue(SettingKeys::AyanType), 12);
+  EXPECT_EQ(below.IntValue(SettingKeys::AyanType), 3);
+
+  below.SetValue("Init", "AyanType", "Lahiri");
+  EXPECT_EQ(below.IntValue(SettingKeys::AyanType), 1);
+  for (const auto &[text, truth] : std::initializer_list<std::pair<const char *, bool>>{
+           {"TRUE", true}, {"-1", true}, {"1", true}, {"0", false}, {"x", false}, {"", false}}) {
+    below.SetValue("Settings", "A", text);
+    EXPECT_EQ(below.BoolValue("Settings", "A", !truth), truth) << text;
+  }
+}
+
+TEST_F(SettingsTest, AnIniWriteChangesOneLine) {
+  const QByteArray before =
+      "; mine\r\n\r\n[Other]\r\nLastPerson=none\r\nno entry\r\n\r\n[ORVANI]\r\n# colour\r\n  lastperson = Arun "
+      "\r\n;LastPerson=x\r\nbytes=\xff\xfe\r\n\r\n[SHOWERROR]\r\n13=True\r\n";
+  const AppPaths paths(At(""));
+  const clsIni ini(paths);
+  EXPECT_EQ(ini.GetIniString("LastPerson", "nobody"), "nobody");
+  WriteWholeFile(paths.IniPath(), before);
+  EXPECT_EQ(ini.GetIniString("LASTPERSON", "nobody"), "Arun");
+  EXPECT_EQ(ini.GetIniString("13", "", "ShowError"), "True");
+  EXPECT_EQ(ini.GetIniString("no entry", "default"), "default");
+
+  ini.WriteIniString("LastPerson", "O'Brien = 1\n");
+  ini.WriteIniString("SelLang", QString::fromUtf8("हिन्दी"));
+  ini.WriteIniString("New", "1", "Third");
+  EXPECT_EQ(ini.GetIniString("LastPerson", ""), "O'Brien = 1");
+  EXPECT_EQ(ini.GetIniString("SelLang", ""), QString::fromUtf8("हिन्दी"));
+  QByteArray after = before;
+  after.replace("  lastperson = Arun \r\n", "  lastperson =O'Brien = 1 \r\n");
+  after.replace("bytes=\xff\xfe\r\n", "bytes=\xff\xfe\r\nSelLang=हिन्दी\r\n");
+  after.append("\r\n[Third]\r\nNew=1\r\n");
+  EXPECT_EQ(ReadWholeFile(paths.IniPath()).toStdString(), after.toStdString());
+
+  ini.WriteIniString("Long", QString(300, 'x'));
+  EXPECT_EQ(ini.GetIniString("Long", "").size(), 255);
+  EXPECT_THROW(ini.WriteIniString("a=b", "1"), UsageError);
+  EXPECT_THROW(ini.WriteIniString(";a", "1"), UsageError);
+}
+
+TEST_F(SettingsTest, AnIniIsMadeWithItsFolderAndAFileInTheWayIsTold) {
+  const AppPaths paths(At("fresh"));
+  clsIni(paths).WriteIniString("SelLang", "English");
+  EXPECT_EQ(ReadWholeFile(At("fresh/EPHE/INIFILES/GENDAT.INI")), "[Orvani]\nSelLang=English\n");
+  clsIni(paths).WriteIniString("A", "1", "B", "other.ini");
+  EXPECT_EQ(clsIni(paths).GetIniString("a", "", "b", "OTHER.INI"), "1");
+
+  QDir().mkpath(At("blocked/EPHE/INIFILES/GENDAT.INI"));
+  QString sentence;
+  Refusal([&] { clsIni(AppPaths(At("blocked"))).WriteIniString("A", "1"); }, &sentence);
+  EXPECT_TRUE(sentence.contains("GENDAT.INI"));
+  EXPECT_THROW(clsIni(AppPaths(At("blocked"))).GetIniString("A", ""), StoreError);
+}
+
+}  // namespace

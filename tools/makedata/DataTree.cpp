@@ -1,0 +1,262 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#include "DataTree.h"
+
+#include "FileWriter.h"
+#include "SourceError.h"
+#include "StoreFile.h"
+#include "TableSource.h"
+#include "TextSource.h"
+#include "WaitAnimation.h"
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <vector>
+
+namespace {
+
+using Column = TableSource::Column;
+using Kind = TableSource::Column::Kind;
+
+/// Raised when a store is made otherwise from the same sources, so that present trees are remade.
+constexpr char kDataVersion[] = "1";
+
+constexpr char kGendatStart[] =
+    "; Settings of the program. Lines that begin with a semicolon are comments.\n"
+    "[Orvani]\n";
+
+/// Files that only have to be there.
+constexpr const char *kPresenceFiles[] = {"CONYEAR.DAT", "SADESAT.Dat", "SCGRAHA.DAT", "SCRASI.DAT", "SCYONI.DAT"};
+
+const std::vector<Column> kLanguageColumns{
+    {"Name"},
+    {"Directory"},
+    {"HeaderSize", Kind::Whole, 6, 72},
+    {"NormalSize", Kind::Whole, 6, 72},
+    {"HeadBold", Kind::Flag},
+    {"SubHeadSize", Kind::Whole, 6, 72},
+    {"SubHeadBold", Kind::Flag},
+    {"KundliSize", Kind::Whole, 6, 72},
+    {"EngSize", Kind::Whole, 6, 72},
+    {"SmallSize", Kind::Whole, 6, 72},
+    {"TextSize", Kind::Whole, 6, 72},
+    {"TextHeadSize", Kind::Whole, 6, 72},
+};
+
+const std::vector<Column> kPersonColumns{
+    {"Name"},
+    {"Sex", Kind::Whole, 1, 2},
+    {"Day", Kind::Whole, 1, 31},
+    {"Month", Kind::Whole, 1, 12},
+    {"Year", Kind::Whole, 1, 9999},
+    {"Hour", Kind::Whole, 0, 23},
+    {"Minutes", Kind::Whole, 0, 59},
+    {"seconds", Kind::Whole, 0, 59},
+    {"AMPM", Kind::Whole, 1, 2},
+    {"City"},
+    {"Country"},
+    {"LatDeg", Kind::Whole, 0, 90},
+    {"LatMT", Kind::Whole, 0, 59},
+    {"TextNS", Kind::Letter, 0, 0, "NS"},
+    {"LongDeg", Kind::Whole, 0, 180},
+    {"LongMT", Kind::Whole, 0, 59},
+    {"TextEW", Kind::Letter, 0, 0, "EW"},
+    {"GMTDIFF", Kind::ZoneTime},
+    {"TCorrVal"},
+    {"Tcorrinde", Kind::Whole, 0, 99},
+};
+
+const std::vector<Column> kResidenceColumns{
+    {"Name"},
+    {"City"},
+    {"Country"},
+    {"GMTDIFF", Kind::ZoneTime},
+    {"LatDeg", Kind::Whole, 0, 90},
+    {"LatMT", Kind::Whole, 0, 59},
+    {"LongDeg", Kind::Whole, 0, 180},
+    {"LongMT", Kind::Whole, 0, 59},
+    {"TextNS", Kind::Letter, 0, 0, "NS"},
+    {"TextEW", Kind::Letter, 0, 0, "EW"},
+};
+
+const std::vector<Column> kCountryColumns{{"Name"}, {"GMTDIF", Kind::ZoneTime}};
+
+const std::vector<Column> kCityColumns{
+    {"City"},
+    {"Country"},
+    {"Lat", Kind::DegMin, 0, 90},
+    {"Longy", Kind::DegMin, 0, 180},
+    {"NOSO", Kind::Letter, 0, 0, "NS"},
+    {"EaWe", Kind::Letter, 0, 0, "EW"},
+    {"GMTDIFF", Kind::ZoneTime},
+};
+
+/// One language: its row of the list and its words.
+struct Language {
+  QVariantList row;
+  QString directory;
+  bool hasTexts = false;
+  QString hash;
+  TextSource texts;
+};
+
+QString HashOf(const QStringList &paths) {
+  QCryptographicHash hash(QCryptographicHash::Sha256);
+  hash.addData(QByteArray(kDataVersion));
+  for (const QString &path : paths) {
+    const QByteArray content = FileWriter::Read(path);
+    hash.addData(QFileInfo(path).fileName().toUtf8() + '\n' + QByteArray::number(content.size()) + '\n' + content);
+  }
+  return QString::fromLatin1(hash.result().toHex());
+}
+
+/// The text files of a folder in a fixed order, so that one set of sources makes one store on every machine.
+QStringList TextFilesIn(const QString &folder) {
+  QStringList names = QDir(folder).entryList({"*.txt"}, QDir::Files);
+  std::sort(names.begin(), names.end());
+  for (QString &name : names) name.prepend(folder + "/");
+  return names;
+}
+
+Language ReadLanguage(const QString &sourceDir, const QVariantList &row) {
+  Language language;
+  language.row = row;
+  language.directory = row[1].toString();
+  const QStringList files = TextFilesIn(sourceDir + "/" + language.directory.toLower());
+  language.hasTexts = !files.isEmpty();
+  for (const QString &file : files) language.texts.AddFile(file);
+  language.hash = HashOf(files);
+  return language;
+}
+
+/// The SQL type of a column; names are found without regard to case.
+QString Declaration(const Column &column) {
+  static const QStringList caseless{"Name", "City", "Country", "Directory"};
+  const bool isNumber = column.kind == Kind::Whole || column.kind == Kind::Flag;
+  return column.name + (isNumber ? " INTEGER" : caseless.contains(column.name) ? " TEXT COLLATE NOCASE" : " TEXT");
+}
+
+void MakeTable(StoreFile::Maker &maker, const QString &table, const std::vector<Column> &columns) {
+  QStringList declarations;
+  for (const Column &column : columns) declarations << Declaration(column);
+  maker.Run("CREATE TABLE " + table + " (" + declarations.join(", ") + ")");
+}
+
+void FillTable(StoreFile::Maker &maker, const QString &table, const TableSource &source) {
+  for (const QVariantList &row : source.Rows()) maker.Insert(table, source.ColumnNames(), row);
+}
+
+void MakeTexts(StoreFile::Maker &maker, const TextSource &texts) {
+  for (const QString &table : TextSource::Tables()) {
+    maker.Run("CREATE TABLE " + table + " (Head TEXT COLLATE NOCASE, Category TEXT COLLATE NOCASE, Val TEXT)");
+    for (const TextSource::Row &row : texts.Rows()) {
+      if (row.table == table) maker.Insert(table, {"Head", "Category", "Val"}, {row.head, row.category, row.val});
+    }
+    maker.Run("CREATE INDEX " + table + "HeadCategory ON " + table + " (Head, Category)");
+  }
+}
+
+void MakeLanguageList(StoreFile::Maker &maker, const std::vector<Language> &languages) {
+  std::vector<Column> columns = kLanguageColumns;
+  columns.push_back({"Include", Kind::Flag});
+  MakeTable(maker, "Language", columns);
+  QStringList names;
+  for (const Column &column : columns) names << column.name;
+  for (const Language &language : languages) maker.Insert("Language", names, language.row + QVariantList{language.hasTexts ? 1 : 0});
+}
+
+void MakePersons(StoreFile::Maker &maker, const TableSource &persons, const TableSource &cities, const TableSource &countries) {
+  MakeTable(maker, "Person", kPersonColumns);
+  MakeTable(maker, "City", kCityColumns);
+  MakeTable(maker, "Country", kCountryColumns);
+  FillTable(maker, "Person", persons);
+  FillTable(maker, "City", cities);
+  FillTable(maker, "Country", countries);
+  maker.Run("CREATE INDEX PersonName ON Person (Name)");
+  maker.Run("CREATE INDEX CityCity ON City (City)");
+  maker.Run("CREATE INDEX CityCountry ON City (Country)");
+  maker.Run("CREATE INDEX CountryName ON Country (Name)");
+  maker.Run("CREATE VIEW qryPersonName AS SELECT * FROM Person ORDER BY Name");
+}
+
+/// A city is saved only under a country of the list, so the first ones must not break that rule.
+void CheckCountries(const QString &citiesPath, const TableSource &cities, const TableSource &countries) {
+  for (std::size_t i = 0; i < cities.Rows().size(); ++i) {
+    const QString wanted = cities.Rows()[i][1].toString();
+    const bool isListed = std::any_of(countries.Rows().begin(), countries.Rows().end(),
+                                      [&](const QVariantList &country) { return country[0].toString() == wanted; });
+    if (!isListed) throw SourceError(citiesPath, cities.LineOf(i), "there is no country '" + wanted + "'");
+  }
+}
+
+}  // namespace
+
+void DataTree::Make(const QString &sourceDir, const QString &epheDir) {
+  if (!QFileInfo(sourceDir).isDir()) throw SourceError(sourceDir, 0, "there is no such folder");
+  const QString common = sourceDir + "/common/";
+  const QString languagesPath = common + "languages.txt";
+  const QString personsPath = common + "persons.txt";
+  const QString residencesPath = common + "residences.txt";
+  const QString countriesPath = common + "countries.txt";
+  const QString citiesPath = common + "cities.txt";
+
+  // Everything is read before anything is written: a fault in a source leaves the present tree as it is.
+  const TableSource languageList(languagesPath, kLanguageColumns);
+  const TableSource persons(personsPath, kPersonColumns);
+  const TableSource residences(residencesPath, kResidenceColumns);
+  const TableSource countries(countriesPath, kCountryColumns);
+  const TableSource cities(citiesPath, kCityColumns);
+  CheckCountries(citiesPath, cities, countries);
+  std::vector<Language> languages;
+  for (const QVariantList &row : languageList.Rows()) languages.push_back(ReadLanguage(sourceDir, row));
+
+  FileWriter::MakeFolder(epheDir + "/COMMON");
+  FileWriter::MakeFolder(epheDir + "/INIFILES");
+  FileWriter::MakeFolder(epheDir + "/FONTI");
+
+  QString allHashes;
+  for (const Language &language : languages) {
+    allHashes += language.hash;
+    if (!language.hasTexts) continue;
+    const QString folder = epheDir + "/" + language.directory;
+    const QString store = folder + "/" + language.directory + ".DAT";
+    FileWriter::MakeFolder(folder);
+    if (!StoreFile::IsMadeFrom(store, language.hash))
+      StoreFile::Make(store, language.hash, [&](StoreFile::Maker &maker) { MakeTexts(maker, language.texts); });
+  }
+
+  QString listHash = HashOf({languagesPath});
+  for (const Language &language : languages) listHash += language.hasTexts ? '1' : '0';
+  const QString listStore = epheDir + "/COMMON/LANGS.Dat";
+  if (!StoreFile::IsMadeFrom(listStore, listHash))
+    StoreFile::Make(listStore, listHash, [&](StoreFile::Maker &maker) { MakeLanguageList(maker, languages); });
+
+  const QString personStore = epheDir + "/COMMON/RECOS.Dat";
+  const QString personHash = HashOf({personsPath, citiesPath, countriesPath});
+  if (!FileWriter::ExistsInAnyCase(personStore))
+    StoreFile::Make(personStore, personHash, [&](StoreFile::Maker &maker) { MakePersons(maker, persons, cities, countries); });
+
+  const QString residenceStore = epheDir + "/COMMON/Daily.dat";
+  const QString residenceHash = HashOf({residencesPath});
+  if (!FileWriter::ExistsInAnyCase(residenceStore))
+    StoreFile::Make(residenceStore, residenceHash, [&](StoreFile::Maker &maker) {
+      MakeTable(maker, "PERSON", kResidenceColumns);
+      FillTable(maker, "PERSON", residences);
+      maker.Run("CREATE INDEX PersonName ON PERSON (Name)");
+    });
+
+  const QString configuration = epheDir + "/INIFILES/GENDAT.INI";
+  if (!FileWriter::ExistsInAnyCase(configuration)) FileWriter::Write(configuration, kGendatStart);
+
+  for (const char *name : kPresenceFiles)
+    FileWriter::Write(epheDir + "/COMMON/" + name, "This file only has to be present; nothing is read from it.\n");
+  FileWriter::Write(epheDir + "/COMMON/WAIT.AVI", WaitAnimation::Avi());
+
+  // Written last: a tree with this mark is a whole one.
+  const QByteArray seed = QCryptographicHash::hash((allHashes + listHash + personHash + residenceHash).toLatin1(),
+                                                   QCryptographicHash::Sha256);
+  FileWriter::Write(epheDir + "/SEED", QByteArray(kDataVersion) + " " + seed.toHex() + "\n");
+}

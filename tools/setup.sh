@@ -1,0 +1,57 @@
+# SPDX-FileCopyrightText: 2026 Brivanta Works
+# SPDX-License-Identifier: AGPL-3.0-or-later
+# Sourced by run and test: installs what is missing, configures once, builds.
+
+build_dir=build/release
+
+# What building and running need.
+run_packages=(g++ cmake ninja-build qt6-base-dev libqt6sql6-sqlite libswe-dev swe-basic-data)
+# What the tests need beside them.
+test_packages=(libgtest-dev libbenchmark-dev)
+
+# Installs those of the named packages that are missing, as root or with sudo.
+need_packages() {
+  local missing=() package
+  for package in "$@"; do
+    dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null | grep -qx installed || missing+=("$package")
+  done
+  [ ${#missing[@]} -eq 0 ] && return 0
+  local as_root=()
+  if [ "$(id -u)" -ne 0 ]; then
+    command -v sudo >/dev/null || { echo "These packages are missing, and there is no sudo to install them: ${missing[*]}" >&2; exit 1; }
+    as_root=(sudo)
+  fi
+  echo "Installing with apt-get: ${missing[*]}"
+  export DEBIAN_FRONTEND=noninteractive
+  local log
+  log=$(mktemp)
+  if ! { "${as_root[@]}" apt-get update && "${as_root[@]}" apt-get install -y --no-install-recommends "${missing[@]}"; } >"$log" 2>&1; then
+    cat "$log" >&2
+    echo "Installing failed; see above." >&2
+    exit 1
+  fi
+  rm -f "$log"
+}
+
+# Configures the build folder once, and again when an option (NAME=VALUE) is not what it was configured with.
+configure() {
+  local option fresh=yes definitions=()
+  [ -f "$build_dir/build.ninja" ] || fresh=
+  for option in "$@"; do
+    definitions+=("-D$option")
+    grep -qE "^${option%%=*}:[A-Z]+=${option#*=}$" "$build_dir/CMakeCache.txt" 2>/dev/null || fresh=
+  done
+  [ -n "$fresh" ] && return 0
+  echo "Configuring $build_dir"
+  cmake --preset release "${definitions[@]}" >"$build_dir.log" 2>&1 || { cat "$build_dir.log" >&2; exit 1; }
+}
+
+# Builds the named targets; silent when there is nothing to do.
+build() {
+  local log
+  log=$(mktemp)
+  if ninja -C "$build_dir" -n "$@" 2>/dev/null | grep -q 'no work to do'; then rm -f "$log"; return 0; fi
+  echo "Building"
+  ninja -C "$build_dir" "$@" >"$log" 2>&1 || { cat "$log" >&2; exit 1; }
+  rm -f "$log"
+}
