@@ -9,9 +9,7 @@
 
 QString TimeText(double clock) {
   constexpr int day = 24 * 60;
-  // A clock number has few digits; what lies beyond them is noise that must not decide which way a half minute goes.
-  const double minutesOfDay = std::round(clsPlanets::MinToDec(clock) * 60 * 1e6) / 1e6;
-  const int total = Functions::Whole(std::floor(minutesOfDay + 0.5));
+  const int total = static_cast<int>(std::round(clsPlanets::MinToDec(clock) * 60));
   const int minutes = (total % day + day) % day;
   const int hour = minutes / 60;
   return QStringLiteral("%1:%2%3").arg(QString::number(hour), Functions::Two(minutes % 60),

@@ -6,7 +6,9 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include "analysis/PredictionPages.h"
 #include "analysis/SelvaniDailyMod.h"
+#include "panchang/DailyYogas.h"
 
 namespace {
 
@@ -112,6 +114,24 @@ QJsonObject OverviewObject(SelvaniDailyMod &session) {
   return overview;
 }
 
+// The day's paragraphs, family by family; a family that asks nothing of this day is left out.
+QJsonObject TextsObject(const clsPlanets &birth, const clsPlanets &today) {
+  QJsonObject texts;
+  for (const PredictionFamily &family : PredictionFamilies()) {
+    const std::optional<PredictionKeys::Key> key = PredictionKeyOf(family.page, birth, today);
+    if (!key) continue;
+    const QString text = today.GetHeadValue(key->kind, key->head, key->category);
+    texts.insert(QLatin1String(family.name), QJsonObject{{"key", key->head}, {"text", text}});
+  }
+  return texts;
+}
+
+QJsonArray YogasArray(const clsPlanets &today) {
+  QJsonArray heads;
+  for (const QString &head : DailyYogas::HeadsThatHold(today)) heads.append(head);
+  return heads;
+}
+
 }  // namespace
 
 QByteArray DailyJson(SelvaniDailyMod &session) {
@@ -131,6 +151,8 @@ QByteArray DailyJson(SelvaniDailyMod &session) {
       {"birth", ChartObject(session.BirthChart())},
       {"day", ChartObject(session.TodayChart())},
       {"dasha", DashaObject(session)},
+      {"texts", TextsObject(session.BirthChart(), session.TodayChart())},
+      {"yogas", YogasArray(session.TodayChart())},
   };
   return QJsonDocument(day).toJson();
 }

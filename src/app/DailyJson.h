@@ -6,5 +6,5 @@
 
 class SelvaniDailyMod;
 
-// The day as one JSON object, every number in full precision: person, moment, settings, overview, birth, day, dasha.
+// The day as one JSON object, every number in full precision: person, moment, settings, overview, birth, day, dasha, texts, yogas.
 QByteArray DailyJson(SelvaniDailyMod &session);

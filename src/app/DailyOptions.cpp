@@ -96,6 +96,20 @@ std::optional<PlaceRecord> ReadPlace(const QCommandLineParser &parser, const Pla
   return place;
 }
 
+DailyOptions::Form ReadForm(const QCommandLineParser &parser) {
+  constexpr std::pair<const char *, DailyOptions::Form> forms[] = {
+      {"json", DailyOptions::Form::Json}, {"read", DailyOptions::Form::Read}, {"text", DailyOptions::Form::Text}};
+  QStringList given;
+  DailyOptions::Form form = DailyOptions::Form::Text;
+  for (const auto &[name, value] : forms) {
+    if (!parser.isSet(QLatin1String(name))) continue;
+    given << QStringLiteral("--") + QLatin1String(name);
+    form = value;
+  }
+  if (given.size() > 1) throw UsageError(given.join(QStringLiteral(" and ")) + QStringLiteral(" exclude each other; give one of them."));
+  return form;
+}
+
 BirthRecord ReadBirth(const QCommandLineParser &parser) {
   const QDateTime moment = ReadMoment("birth", parser.value(QStringLiteral("birth")));
   const std::optional<PlaceRecord> place = ReadPlace(parser, {"lat", "long", "gmt"}, "a birth");
@@ -141,6 +155,7 @@ DailyOptions DailyOptions::Parse(const QStringList &arguments) {
   option("upagraha", "Reckoning of the upagrahas for this run: 1 or 2.", "1|2");
   option("text", "Print text (the default).");
   option("json", "Print one JSON object with full-precision numbers.");
+  option("read", "Print the day's texts to read.");
   option("app-dir", "The folder that holds the data folder EPHE.", "DIR");
   option("help", "Show this help and end.");
   option("version", "Show the version and end.");
@@ -161,9 +176,7 @@ DailyOptions DailyOptions::Parse(const QStringList &arguments) {
     return options;
   }
   if (parser.isSet(QStringLiteral("list"))) options.action = Action::ListPersons;
-  if (parser.isSet(QStringLiteral("json")) && parser.isSet(QStringLiteral("text")))
-    throw UsageError(QStringLiteral("--json and --text exclude each other; give one of them."));
-  if (parser.isSet(QStringLiteral("json"))) options.form = Form::Json;
+  options.form = ReadForm(parser);
   options.appDir = parser.value(QStringLiteral("app-dir"));
   if (parser.isSet(QStringLiteral("app-dir")) && options.appDir.trimmed().isEmpty())
     Refuse("app-dir", options.appDir, "the folder that holds the data folder EPHE");

@@ -12,7 +12,7 @@
 // What one call of orvani-daily asks for.
 struct DailyOptions {
   enum class Action { ShowDay, ListPersons, Help, Version };
-  enum class Form { Text, Json };
+  enum class Form { Text, Json, Read };
 
   Action action = Action::ShowDay;
   Form form = Form::Text;

@@ -3,6 +3,7 @@
 #include "app/DailyText.h"
 
 #include "analysis/PlanetTablePage.h"
+#include "analysis/PredictionPages.h"
 #include "analysis/SelvaniDailyMod.h"
 
 namespace {
@@ -34,19 +35,42 @@ QString PlanetTable(const QString &title, const clsPlanets &chart) {
   return text;
 }
 
+// Who, where and when.
+QString Opening(SelvaniDailyMod &session) {
+  const PersonHeader header = session.ShowPersonHeader();
+  QString text = header.lblPersonName + QLatin1Char('\n');
+  text += QStringLiteral("  %1, %2\n").arg(header.lblBDate.simplified(), session.BirthChart().clsPerson().GetBirthPlace());
+  text += QStringLiteral("  %1\n").arg(header.lblNowIn.simplified());
+  text += QStringLiteral("  %1\n").arg(session.NowInfo().simplified());
+  return text;
+}
+
+QString PageTitle(const clsPlanets &words, const char *key) { return words.GetHeadValue(11, QLatin1String(key), QStringLiteral("Gen")); }
+
+// A paragraph broken between words; a word longer than a line keeps a line of its own.
+QString Wrapped(const QString &paragraph) {
+  constexpr int width = 78, indent = 2;
+  QString text, line;
+  const auto endLine = [&] {
+    if (!line.isEmpty()) text += QString(indent, QLatin1Char(' ')) + line + QLatin1Char('\n');
+    line.clear();
+  };
+  for (const QString &word : paragraph.simplified().split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+    if (!line.isEmpty() && indent + line.size() + 1 + word.size() > width) endLine();
+    if (!line.isEmpty()) line += QLatin1Char(' ');
+    line += word;
+  }
+  endLine();
+  return text;
+}
+
 }  // namespace
 
 QString DailyText(SelvaniDailyMod &session) {
-  const PersonHeader header = session.ShowPersonHeader();
-  const clsPerson &birth = session.BirthChart().clsPerson();
   const OverviewPage page = session.FillMainPage();
   const clsPlanets &today = session.TodayChart();
 
-  QString text = header.lblPersonName + QLatin1Char('\n');
-  text += QStringLiteral("  %1, %2\n").arg(header.lblBDate.simplified(), birth.GetBirthPlace());
-  text += QStringLiteral("  %1\n").arg(header.lblNowIn.simplified());
-  text += QStringLiteral("  %1\n").arg(session.NowInfo().simplified());
-
+  QString text = Opening(session);
   text += Rule(page.lblTodPanchang);
   const int month = clsPlanets::VikramiMonth(today.PlanetLongi(1), today.clsPerson().GetBirthDate());
   text += Pairs(page.lblDayHead, page.lblDayVal, page.lblSunRiseHead, page.lblSunriseVal);
@@ -57,8 +81,23 @@ QString DailyText(SelvaniDailyMod &session) {
   text += Pair(today.GetGenText(QStringLiteral("HinduMonth")), today.GetVikramiMonth(month)) + QLatin1Char('\n');
   text += Pair(page.lblCurDashaHead, page.lblCurDashaVal) + QLatin1Char('\n');
 
-  const auto title = [&](const char *key) { return today.GetHeadValue(11, QLatin1String(key), QStringLiteral("Gen")); };
-  text += PlanetTable(title("BirthPlanets"), session.BirthChart());
-  text += PlanetTable(title("TodayPlanets"), today);
+  text += PlanetTable(PageTitle(today, "BirthPlanets"), session.BirthChart());
+  text += PlanetTable(PageTitle(today, "TodayPlanets"), today);
+  return text;
+}
+
+QString DailyReading(SelvaniDailyMod &session) {
+  const clsPlanets &birth = session.BirthChart(), &today = session.TodayChart();
+  QString text = Opening(session);
+  for (const PredictionFamily &family : PredictionFamilies()) {
+    text += Rule(PageTitle(today, family.titleKey));
+    for (const PredictionPage::Line &line : FillPredictionPage(family.page, birth, today).lines) text += Wrapped(line.text);
+  }
+  const PredictionPage yogas = ShowYogas(today);
+  if (!yogas.lines.empty()) text += Rule(PageTitle(today, "YogaResults"));
+  for (const PredictionPage::Line &line : yogas.lines) {
+    if (line.isHead && &line != &yogas.lines.front()) text += QLatin1Char('\n');
+    text += line.isHead ? line.text + QLatin1Char('\n') : Wrapped(line.text);
+  }
   return text;
 }

@@ -79,7 +79,11 @@ int ShowDay(const DailyOptions &options, const AppPaths &paths, std::shared_ptr<
     }
     session.SetResidence(options.residence);
     session.BuildAnalysis(options.at.value_or(QDateTime(QDate::currentDate(), QTime::currentTime(), Qt::UTC)));
-    Print(options.form == DailyOptions::Form::Json ? QString::fromUtf8(DailyJson(session)) : DailyText(session));
+    switch (options.form) {
+      case DailyOptions::Form::Json: Print(QString::fromUtf8(DailyJson(session))); break;
+      case DailyOptions::Form::Read: Print(DailyReading(session)); break;
+      case DailyOptions::Form::Text: Print(DailyText(session)); break;
+    }
     return 0;
   } catch (const StoreError &) {
     throw;

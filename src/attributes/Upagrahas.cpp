@@ -88,6 +88,8 @@ double clsPlanets::AscendantAtHours(double hours) const {
   moment.SetAMPM(clsPerson().AMPM());
   double hour = Fix(hours);
   if (hours > 24) {
+    // A midnight that the person holds as hour 24 must not carry the date a second time.
+    moment.SetHour(0);
     moment.AddDays(1);
     hour = Functions::Norm24(hour);
   }

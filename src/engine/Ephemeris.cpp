@@ -9,6 +9,15 @@ namespace {
 
 int lastFlags = -1;
 
+// Tropical and fixed zodiacs ask no mode of the library.
+int ModeOf(Zodiac::Kind kind) {
+  switch (kind) {
+    case Zodiac::Kind::Raman: return SE_SIDM_RAMAN;
+    case Zodiac::Kind::Krishnamurti: return SE_SIDM_KRISHNAMURTI;
+    default: return SE_SIDM_LAHIRI;
+  }
+}
+
 }  // namespace
 
 double JulianDay(int year, int month, int day, double hour) { return swe_julday(year, month, day, hour, SE_GREG_CAL); }
@@ -32,6 +41,38 @@ std::array<double, 13> PlacidusCusps(double julianDay, double latitude, double l
 double Ayanamsha(double julianDay, SiderealMode mode) {
   swe_set_sid_mode(static_cast<int>(mode), 0, 0);
   return swe_get_ayanamsa(julianDay);
+}
+
+double ApparentLongitude(double universalDay, Body body, const Zodiac &zodiac) {
+  std::array<double, 11> position{};
+  std::array<char, 256> message{};
+  const bool byLibrary = zodiac.kind != Zodiac::Kind::Tropical && zodiac.kind != Zodiac::Kind::Fixed;
+  if (byLibrary) swe_set_sid_mode(ModeOf(zodiac.kind), 0, 0);
+  lastFlags =
+      swe_calc_ut(universalDay, static_cast<int>(body), SEFLG_SWIEPH | (byLibrary ? SEFLG_SIDEREAL : 0), position.data(), message.data());
+  return zodiac.kind == Zodiac::Kind::Fixed ? swe_degnorm(position[0] - zodiac.fixedDegrees) : position[0];
+}
+
+std::optional<double> NextCrossing(double universalDay, Body body, Crossing crossing, DiscRule rule, const Observer &observer) {
+  constexpr double seaLevelPressure = 1013.25, temperature = 15;  // mbar, degrees Celsius
+  std::array<double, 3> place{observer.longitude, observer.latitude, observer.altitude};
+  std::array<char, 256> message{};
+  double found = 0;
+  int method = crossing == Crossing::Rise ? SE_CALC_RISE : SE_CALC_SET;
+  if (rule == DiscRule::CentreNoRefraction) method |= SE_BIT_DISC_CENTER | SE_BIT_NO_REFRACTION;
+  const int state = swe_rise_trans(universalDay, static_cast<int>(body), nullptr, SEFLG_SWIEPH, method, place.data(), seaLevelPressure,
+                                   temperature, &found, message.data());
+  if (state < 0) return std::nullopt;
+  return found;
+}
+
+double TrueAltitude(double universalDay, Body body, const Observer &observer) {
+  std::array<double, 11> position{};
+  std::array<char, 256> message{};
+  std::array<double, 3> place{observer.longitude, observer.latitude, observer.altitude}, horizontal{};
+  swe_calc_ut(universalDay, static_cast<int>(body), SEFLG_SWIEPH | SEFLG_EQUATORIAL, position.data(), message.data());
+  swe_azalt(universalDay, SE_EQU2HOR, place.data(), 0, 0, position.data(), horizontal.data());
+  return horizontal[1];
 }
 
 QString Source() {

@@ -4,6 +4,7 @@
 
 #include <QString>
 #include <array>
+#include <optional>
 
 // The one gateway to the Swiss Ephemeris library. Positions are geocentric, apparent, tropical ecliptic
 // longitudes in degrees, from the library's default data path and its default choice of ephemeris.
@@ -29,6 +30,42 @@ std::array<double, 13> PlacidusCusps(double julianDay, double latitude, double l
 
 // The ayanamsha in degrees by the library's sidereal mode. The mode is library-wide state, set here just before the query.
 double Ayanamsha(double julianDay, SiderealMode mode);
+
+// --- the sky of the exact day: every moment below is a Julian day in universal time, to which the library adds its delta T ---
+
+// Where sidereal longitudes are counted from.
+struct Zodiac {
+  enum class Kind { Lahiri, Raman, Krishnamurti, Tropical, Fixed };
+  Kind kind = Kind::Lahiri;
+  double fixedDegrees = 0;  // ayanamsha of Kind::Fixed
+
+  bool operator==(const Zodiac &) const = default;
+};
+
+// Apparent geocentric longitude in degrees, 0 up to 360.
+double ApparentLongitude(double universalDay, Body body, const Zodiac &zodiac);
+
+// A place on the earth: degrees, north and east positive; metres above the sea.
+struct Observer {
+  double latitude = 0, longitude = 0, altitude = 0;
+
+  bool operator==(const Observer &) const = default;
+};
+
+enum class Crossing { Rise, Set };
+
+// What of the disc meets the horizon.
+enum class DiscRule {
+  CentreNoRefraction,   // the disc's centre at the true horizon
+  UpperLimbRefraction,  // the disc's upper limb at the seen horizon, in air of 1013.25 mbar and 15 C
+};
+
+// The next rise or set after the moment, as seen from the place itself; nothing where the library finds none within the
+// next day or so.
+std::optional<double> NextCrossing(double universalDay, Body body, Crossing crossing, DiscRule rule, const Observer &observer);
+
+// Degrees of the body's centre above the true horizon, negative below it.
+double TrueAltitude(double universalDay, Body body, const Observer &observer);
 
 // Which ephemeris answered the last position: "Swiss Ephemeris files", "Moshier (built in)" or "JPL file";
 // empty before the first.

@@ -21,6 +21,9 @@ struct SettingKeys {
   static constexpr SettingKey CalcMangMod{"Settings", "CalcMangMod", "1"};
   static constexpr SettingKey CalcVarMod{"Settings", "CalcVarMod", "1"};
 
+  static constexpr SettingKey DayDivisions{"Settings", "DayDivisions", "1"};  ///< Rahu Kaal and the like: 1 the program's own rule, 2 exact
+  static constexpr SettingKey SunriseRule{"Settings", "SunriseRule", "1"};    ///< of the exact day: 1 disc centre, 2 upper limb
+
   // Window place of the main screen, pixels; an empty text means "never stored".
   static constexpr SettingKey WindowState{"InitPosition", "WindowState", ""};
   static constexpr SettingKey TopPos{"InitPosition", "TopPos", ""};

@@ -46,10 +46,52 @@ TEST_F(DailyProgram, PrintsTheDay) {
   const Answer day = Call({"--at", "2026-11-21 09:00"});
   EXPECT_EQ(day.code, 0) << day.err.constData();
   for (const char *part : {"Anvik Telvar", "Agra", "Saturday", "Shukla Dvadashi", "Revati", "Rahu Kaal", "9:16 AM-10:50 AM",
-                           "13:20 PM-14:55 PM", "Ven-Sat-Mer", "14:31:25"})
+                           "13:20 PM-14:54 PM", "Ven-Sat-Mer", "14:31:25"})
     EXPECT_TRUE(day.out.contains(part)) << part << "\n" << day.out.constData();
   for (const QByteArray &line : day.out.split('\n')) EXPECT_LE(QString::fromUtf8(line).size(), 80) << line.constData();
   EXPECT_EQ(day.err, "");
+}
+
+// One Wednesday: its texts wrapped under their titles, and the same ones as JSON, with the two yogas of that morning.
+TEST_F(DailyProgram, ReadsTheDaysTexts) {
+  const QStringList moment{"--at", "2026-11-25 09:00"};
+  const Answer reading = Call(QStringList(moment) << "--read");
+  EXPECT_EQ(reading.code, 0);
+  EXPECT_EQ(reading.err, "");
+  const QString read = QString::fromUtf8(reading.out);
+  for (const QString &line : read.split('\n')) EXPECT_LE(line.size(), 78) << line.toStdString();
+
+  const QJsonObject day = QJsonDocument::fromJson(Call(QStringList(moment) << "--json").out).object();
+  const QJsonObject texts = day["texts"].toObject();
+  const std::pair<const char *, const char *> families[] = {{"weekday", "Weekday"},
+                                                            {"tithi", "Tithi"},
+                                                            {"nakshatra", "Nakshatra"},
+                                                            {"suryayoga", "Surya Yoga"},
+                                                            {"rashifala", "Rashifala"},
+                                                            {"moontransit", "Moon Transits"},
+                                                            {"finance", "Financial Analysis"},
+                                                            {"journey", "Journey"}};
+  ASSERT_EQ(texts.size(), static_cast<qsizetype>(std::size(families)));
+  const QString words = read.simplified();
+  qsizetype last = 0;
+  for (const auto &[name, title] : families) {
+    const QJsonObject entry = texts[QLatin1String(name)].toObject();
+    const qsizetype at = words.indexOf(QLatin1String(title) + ' ' + QString(qstrlen(title), '-') + ' ' + entry["text"].toString());
+    EXPECT_FALSE(entry["text"].toString().isEmpty()) << name;
+    EXPECT_GT(at, last) << name << " stands under its title, in order\n" << reading.out.constData();
+    last = at;
+  }
+  EXPECT_EQ(texts["weekday"]["key"], "Wednesday");
+  EXPECT_EQ(day["yogas"].toArray(), (QJsonArray{"VIDAL YOGA", "Ravi Yoga"}));
+  const qsizetype yogas = words.indexOf("Yogas of the Day"), vidala = words.indexOf("Vidala Yoga", yogas);
+  EXPECT_GT(yogas, last);
+  EXPECT_GT(vidala, yogas);
+  EXPECT_GT(words.indexOf("Ravi Yoga", vidala), vidala);
+
+  // A morning without a yoga has no such heading.
+  const QStringList bare{"--at", "2026-11-23 09:00"};
+  EXPECT_FALSE(Call(QStringList(bare) << "--read").out.contains("Yogas of the Day"));
+  EXPECT_EQ(QJsonDocument::fromJson(Call(QStringList(bare) << "--json").out)["yogas"].toArray(), QJsonArray());
 }
 
 TEST_F(DailyProgram, GivesTheSameChartForAPersonOnTheLine) {
@@ -135,6 +177,7 @@ TEST_F(DailyProgram, AnswersAWrongCallInOneLine) {
                           << "Anvik Telvar",
        "--person and --birth"},
       {{"--json", "--text"}, "--json and --text"},
+      {{"--read", "--json"}, "--json and --read"},
   };
   for (const auto &[arguments, named] : rows) {
     const Answer answer = Call(arguments);

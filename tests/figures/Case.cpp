@@ -114,9 +114,9 @@ clsPlanets &Case::Refilled() {
 clsPlanets &Case::Back(int days) {
   std::shared_ptr<clsPlanets> &made = back[days];
   if (!made) {
-    clsPerson person = RawPerson();
-    person.AddDays(-days);
-    made = NewChartOf(person);
+    made = NewCopy();
+    made->clsPerson().AddDays(-days);
+    made->Calculate();
   }
   return *made;
 }

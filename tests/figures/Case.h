@@ -34,7 +34,7 @@ class Case {
   clsPlanets &Recalculated();  // the chart's own record, calculated by a second chart object
   clsPlanets &Stale();         // every cache read, then every longitude moved on by 47.3
   clsPlanets &Refilled();      // the same after a second FillVargaTable
-  clsPlanets &Back(int days);  // the chart of the same person, days earlier
+  clsPlanets &Back(int days);  // a copy, moved days earlier and calculated
 
  private:
   int number;

@@ -51,6 +51,7 @@ Members::Members(Case &of) : theCase(of) {
     RegisterSignFigures();
     RegisterDayFigures();
     RegisterDashaFigures();
+    RegisterPageFigures();
     RegisterDignityFigures();
     RegisterAspectFigures();
     RegisterUpagrahaFigures();

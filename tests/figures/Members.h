@@ -32,8 +32,9 @@ class Members {
 
   Case &Of() { return theCase; }
   clsPlanets &Chart() { return target ? *target : theCase.Chart(); }
-  // The second chart of the two-chart members: the one that "Back(days)." names, else the case's own.
-  clsPlanets &Today() { return daysBack == 0 ? Chart() : theCase.Back(daysBack); }
+  // The birth chart of the two-chart members, whose day's chart is the case's own: the one that "Back(days)." names,
+  // else the case's own too.
+  clsPlanets &Birth() { return daysBack == 0 ? Chart() : theCase.Back(daysBack); }
 
   // An argument: a number, a product or quotient or difference of numbers, or a member of this chart.
   Value Argument(const QString &text);
@@ -104,6 +105,7 @@ void RegisterChartFigures();
 void RegisterSignFigures();
 void RegisterDayFigures();
 void RegisterDashaFigures();
+void RegisterPageFigures();
 void RegisterDignityFigures();
 void RegisterAspectFigures();
 void RegisterUpagrahaFigures();

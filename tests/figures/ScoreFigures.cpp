@@ -4,7 +4,7 @@
 #include "attributes/TrishulNakClass.h"
 #include "figures/Members.h"
 
-// Members of two charts: the case's birth chart and the day's.
+// Members of two charts: the birth chart and the day's.
 void RegisterScoreFigures() {
   for (const auto &[name, score] :
        {std::pair("GetFamilyScore", &clsDayGraph::GetFamilyScore), std::pair("GetHappinessScore", &clsDayGraph::GetHappinessScore),
@@ -14,13 +14,13 @@ void RegisterScoreFigures() {
         std::pair("GetFinancialTransScore", &clsDayGraph::GetFinancialTransScore),
         std::pair("GetEducationScore", &clsDayGraph::GetEducationScore)})
     Members::Register(QLatin1String(name), [s = score](Members &members, const Question &) {
-      return Value((clsDayGraph().*s)(members.Chart(), members.Today()));
+      return Value((clsDayGraph().*s)(members.Birth(), members.Chart()));
     });
   Members::Register("GetTrishulNakClass", [](Members &members, const Question &) {
-    return Value(GetTrishulNakClass(members.Chart().Nakshatra(), members.Today().Nakshatra()));
+    return Value(GetTrishulNakClass(members.Birth().Nakshatra(), members.Chart().Nakshatra()));
   });
   Members::Register("Score", [](Members &members, const Question &question) {
-    const clsDayGraph::Facts facts = clsDayGraph::FactsOf(members.Chart(), members.Today());
+    const clsDayGraph::Facts facts = clsDayGraph::FactsOf(members.Birth(), members.Chart());
     QStringList numbers;
     if (question.suffix == QLatin1String(" h"))
       for (size_t planet = 1; planet <= 9; ++planet) numbers << QString::number(facts.house[planet]);

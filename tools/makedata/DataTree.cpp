@@ -12,6 +12,7 @@
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFileInfo>
+#include <QSet>
 
 #include <algorithm>
 #include <vector>
@@ -22,7 +23,7 @@ using Column = TableSource::Column;
 using Kind = TableSource::Column::Kind;
 
 /// Raised when a store is made otherwise from the same sources, so that present trees are remade.
-constexpr char kDataVersion[] = "1";
+constexpr char kDataVersion[] = "2";
 
 constexpr char kGendatStart[] =
     "; Settings of the program. Lines that begin with a semicolon are comments.\n"
@@ -82,7 +83,9 @@ const std::vector<Column> kResidenceColumns{
     {"TextEW", Kind::Letter, 0, 0, "EW"},
 };
 
-const std::vector<Column> kCountryColumns{{"Name"}, {"GMTDIF", Kind::ZoneTime}};
+// `Since` is the version of the lists that first held a row: a store that knows an older version gets only what is newer, so that
+// a place that the user deleted does not come back.
+const std::vector<Column> kCountryColumns{{"Name"}, {"GMTDIF", Kind::ZoneTime}, {"Since", Kind::Whole, 0, 9999}};
 
 const std::vector<Column> kCityColumns{
     {"City"},
@@ -92,6 +95,11 @@ const std::vector<Column> kCityColumns{
     {"NOSO", Kind::Letter, 0, 0, "NS"},
     {"EaWe", Kind::Letter, 0, 0, "EW"},
     {"GMTDIFF", Kind::ZoneTime},
+    {"Region", Kind::Free},
+    {"Population", Kind::Whole, 0, 99999999},
+    {"Zone"},
+    {"Known", Kind::Free},
+    {"Since", Kind::Whole, 0, 9999},
 };
 
 /// One language: its row of the list and its words.
@@ -139,14 +147,21 @@ QString Declaration(const Column &column) {
   return column.name + (isNumber ? " INTEGER" : caseless.contains(column.name) ? " TEXT COLLATE NOCASE" : " TEXT");
 }
 
-void MakeTable(StoreFile::Maker &maker, const QString &table, const std::vector<Column> &columns) {
+void MakeTable(StoreFile::Maker &maker, const QString &table, const std::vector<Column> &columns, qsizetype count = -1) {
   QStringList declarations;
   for (const Column &column : columns) declarations << Declaration(column);
+  declarations = declarations.mid(0, count);
   maker.Run("CREATE TABLE " + table + " (" + declarations.join(", ") + ")");
 }
 
-void FillTable(StoreFile::Maker &maker, const QString &table, const TableSource &source) {
-  for (const QVariantList &row : source.Rows()) maker.Insert(table, source.ColumnNames(), row);
+void FillTable(StoreFile::Maker &maker, const QString &table, const TableSource &source, qsizetype count = -1) {
+  for (const QVariantList &row : source.Rows()) maker.Insert(table, source.ColumnNames().mid(0, count), row.mid(0, count));
+}
+
+int NewestVersion(const TableSource &source) {
+  int newest = 0;
+  for (const QVariantList &row : source.Rows()) newest = std::max(newest, row.last().toInt());
+  return newest;
 }
 
 void MakeTexts(StoreFile::Maker &maker, const TextSource &texts) {
@@ -170,11 +185,15 @@ void MakeLanguageList(StoreFile::Maker &maker, const std::vector<Language> &lang
 
 void MakePersons(StoreFile::Maker &maker, const TableSource &persons, const TableSource &cities, const TableSource &countries) {
   MakeTable(maker, "Person", kPersonColumns);
-  MakeTable(maker, "City", kCityColumns);
-  MakeTable(maker, "Country", kCountryColumns);
+  const auto cityColumns = static_cast<qsizetype>(kCityColumns.size()) - 1;
+  const auto countryColumns = static_cast<qsizetype>(kCountryColumns.size()) - 1;
+  MakeTable(maker, "City", kCityColumns, cityColumns);
+  MakeTable(maker, "Country", kCountryColumns, countryColumns);
+  maker.Run("CREATE TABLE PlacesApplied (Version INTEGER)");
   FillTable(maker, "Person", persons);
-  FillTable(maker, "City", cities);
-  FillTable(maker, "Country", countries);
+  FillTable(maker, "City", cities, cityColumns);
+  FillTable(maker, "Country", countries, countryColumns);
+  maker.Insert("PlacesApplied", {"Version"}, {std::max(NewestVersion(cities), NewestVersion(countries))});
   maker.Run("CREATE INDEX PersonName ON Person (Name)");
   maker.Run("CREATE INDEX CityCity ON City (City)");
   maker.Run("CREATE INDEX CityCountry ON City (Country)");
@@ -182,13 +201,23 @@ void MakePersons(StoreFile::Maker &maker, const TableSource &persons, const Tabl
   maker.Run("CREATE VIEW qryPersonName AS SELECT * FROM Person ORDER BY Name");
 }
 
+/// The shipped places by themselves, from which the program adds what a present store of persons lacks.
+void MakePlaces(StoreFile::Maker &maker, const TableSource &cities, const TableSource &countries) {
+  MakeTable(maker, "City", kCityColumns);
+  MakeTable(maker, "Country", kCountryColumns);
+  maker.Run("CREATE TABLE PlacesVersion (Version INTEGER)");
+  FillTable(maker, "City", cities);
+  FillTable(maker, "Country", countries);
+  maker.Insert("PlacesVersion", {"Version"}, {std::max(NewestVersion(cities), NewestVersion(countries))});
+}
+
 /// A city is saved only under a country of the list, so the first ones must not break that rule.
 void CheckCountries(const QString &citiesPath, const TableSource &cities, const TableSource &countries) {
+  QSet<QString> listed;
+  for (const QVariantList &country : countries.Rows()) listed.insert(country[0].toString());
   for (std::size_t i = 0; i < cities.Rows().size(); ++i) {
     const QString wanted = cities.Rows()[i][1].toString();
-    const bool isListed = std::any_of(countries.Rows().begin(), countries.Rows().end(),
-                                      [&](const QVariantList &country) { return country[0].toString() == wanted; });
-    if (!isListed) throw SourceError(citiesPath, cities.LineOf(i), "there is no country '" + wanted + "'");
+    if (!listed.contains(wanted)) throw SourceError(citiesPath, cities.LineOf(i), "there is no country '" + wanted + "'");
   }
 }
 
@@ -200,8 +229,8 @@ void DataTree::Make(const QString &sourceDir, const QString &epheDir) {
   const QString languagesPath = common + "languages.txt";
   const QString personsPath = common + "persons.txt";
   const QString residencesPath = common + "residences.txt";
-  const QString countriesPath = common + "countries.txt";
-  const QString citiesPath = common + "cities.txt";
+  const QString countriesPath = common + "countries.tsv";
+  const QString citiesPath = common + "places.tsv";
 
   // Everything is read before anything is written: a fault in a source leaves the present tree as it is.
   const TableSource languageList(languagesPath, kLanguageColumns);
@@ -239,6 +268,11 @@ void DataTree::Make(const QString &sourceDir, const QString &epheDir) {
   if (!FileWriter::ExistsInAnyCase(personStore))
     StoreFile::Make(personStore, personHash, [&](StoreFile::Maker &maker) { MakePersons(maker, persons, cities, countries); });
 
+  const QString placesStore = epheDir + "/COMMON/PLACES.DAT";
+  const QString placesHash = HashOf({citiesPath, countriesPath});
+  if (!StoreFile::IsMadeFrom(placesStore, placesHash))
+    StoreFile::Make(placesStore, placesHash, [&](StoreFile::Maker &maker) { MakePlaces(maker, cities, countries); });
+
   const QString residenceStore = epheDir + "/COMMON/Daily.dat";
   const QString residenceHash = HashOf({residencesPath});
   if (!FileWriter::ExistsInAnyCase(residenceStore))
@@ -256,7 +290,7 @@ void DataTree::Make(const QString &sourceDir, const QString &epheDir) {
   FileWriter::Write(epheDir + "/COMMON/WAIT.AVI", WaitAnimation::Avi());
 
   // Written last: a tree with this mark is a whole one.
-  const QByteArray seed = QCryptographicHash::hash((allHashes + listHash + personHash + residenceHash).toLatin1(),
-                                                   QCryptographicHash::Sha256);
+  const QByteArray seed =
+      QCryptographicHash::hash((allHashes + listHash + personHash + placesHash + residenceHash).toLatin1(), QCryptographicHash::Sha256);
   FileWriter::Write(epheDir + "/SEED", QByteArray(kDataVersion) + " " + seed.toHex() + "\n");
 }

@@ -16,8 +16,8 @@ QVariant Value(const Column &column, const QString &text) {
   static const QRegularExpression degMin("^(\\d{3})([0-5]\\d)$");
   static const QRegularExpression zoneTime("^[+-]?(\\d{1,2})\\.([0-5]\\d)$");
   switch (column.kind) {
-    case Column::Kind::Text:
-      return text.isEmpty() ? QVariant() : QVariant(text);
+    case Column::Kind::Text: return text.isEmpty() ? QVariant() : QVariant(text);
+    case Column::Kind::Free: return text;
     case Column::Kind::Whole: {
       bool isWhole = false;
       const int number = text.toInt(&isWhole);
@@ -27,8 +27,7 @@ QVariant Value(const Column &column, const QString &text) {
       if (text == "True") return 1;
       if (text == "False") return 0;
       return {};
-    case Column::Kind::Letter:
-      return text.size() == 1 && column.letters.contains(text) ? QVariant(text) : QVariant();
+    case Column::Kind::Letter: return text.size() == 1 && column.letters.contains(text) ? QVariant(text) : QVariant();
     case Column::Kind::DegMin: {
       const auto match = degMin.match(text);
       const int arcMinutes = match.captured(1).toInt() * 60 + match.captured(2).toInt();

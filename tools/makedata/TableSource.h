@@ -15,6 +15,7 @@ class TableSource {
   struct Column {
     enum class Kind {
       Text,      ///< anything but nothing
+      Free,      ///< anything, or nothing
       Whole,     ///< a whole number from `low` to `high`
       Flag,      ///< "True" or "False"
       Letter,    ///< one of the letters of `letters`

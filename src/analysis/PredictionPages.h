@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#pragma once
+
+#include <QString>
+#include <optional>
+#include <vector>
+
+#include "content/PredictionKeys.h"
+
+class clsPlanets;
+
+// The paragraphs of the day. A page of them is a list of headings and bodies, for the screen, the report and the terminal.
+struct PredictionPage {
+  struct Line {
+    bool isHead = false;
+    QString text;
+  };
+  std::vector<Line> lines;
+
+  void AppendHead(const QString &text) { lines.push_back({true, text}); }
+  void AppendBody(const QString &text) { lines.push_back({false, text}); }
+};
+
+// A family of paragraphs that asks one key of a day.
+struct PredictionFamily {
+  int page;          // number of the screen page
+  const char *name;  // "journey", as scripts name it
+  const char *titleKey;
+};
+const std::vector<PredictionFamily> &PredictionFamilies();
+
+// The key that a page asks for: 15 journey, 19 Rashifala, 20 Moon transit, 21 finance, 24 surya yoga, 25 tithi,
+// 27 nakshatra, 28 weekday. None for another page and for a yoga number without a key.
+std::optional<PredictionKeys::Key> PredictionKeyOf(int page, const clsPlanets &birthChart, const clsPlanets &todayChart);
+
+QString JourneyText(const clsPlanets &today, int weekday, int element);
+QString RashifalaText(const clsPlanets &today, int birthSign, int todaySign);
+QString FinanceText(const clsPlanets &today, int weekday, int sign);
+QString TithiText(const clsPlanets &today, int tithi);
+QString WeekdayText(const clsPlanets &today, int weekday);
+QString NakshatraText(const clsPlanets &today, int nakshatra);
+QString SuryaYogaText(const clsPlanets &today, int yoga);  // empty outside 1 to 27
+QString MoonTransitText(const clsPlanets &birthChart, const clsPlanets &todayChart);
+
+// A title and a paragraph for each muhurtha yoga that holds, in their order; nothing where none holds.
+PredictionPage ShowYogas(const clsPlanets &todayChart);
+
+// The page as the screen shows it; 23 is the yogas.
+PredictionPage FillPredictionPage(int page, const clsPlanets &birthChart, const clsPlanets &todayChart);

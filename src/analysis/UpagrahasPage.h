@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#pragma once
+
+#include <QString>
+#include <array>
+
+class clsPlanets;
+
+// The seventeen upagrahas, in both ways of casting those that follow from the time of day: at the end of their part
+// (mode 1) and at its beginning.
+struct UpagrahasPage {
+  static constexpr int Points = 17;
+
+  struct Row {
+    QString lblUpaName, lblUpaRashi, lblUpaDegrees, lblUpaNak, lblUpaPada;
+  };
+  struct Mode {
+    QString title;
+    bool chosen = false;           // by the user's setting
+    std::array<Row, Points> rows;  // upagraha number less 1
+  };
+
+  std::array<Mode, 2> modes;  // end, beginning
+  QString lblNameHead, lblRashiHead, lblDegreesHead, lblNakHead, lblPadaHead;
+  QString chosenWord;
+};
+
+UpagrahasPage FillUpagrahas(const clsPlanets &chart);
+
+// Degrees by upagraha number less 1, whatever the user's setting says.
+std::array<double, UpagrahasPage::Points> UpagrahasInMode(const clsPlanets &chart, int mode);

@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#include "app/ElidedLabel.h"
+
+#include <QPainter>
+#include <QTextLayout>
+#include <algorithm>
+
+void ElidedLabel::paintEvent(QPaintEvent *) {
+  QPainter painter(this);
+  painter.setPen(palette().color(foregroundRole()));
+  const QRect room = contentsRect();
+  const QString whole = text().simplified();
+  const int lineHeight = fontMetrics().height();
+  const int lines = std::clamp(room.height() / std::max(1, lineHeight), 1, maxLines);
+
+  QStringList shown;
+  QTextLayout layout(whole, font());
+  layout.beginLayout();
+  for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+    line.setLineWidth(room.width());
+    if (shown.size() == lines - 1) {
+      shown << fontMetrics().elidedText(whole.mid(line.textStart()), Qt::ElideRight, room.width());
+      break;
+    }
+    shown << whole.mid(line.textStart(), line.textLength()).trimmed();
+  }
+  layout.endLayout();
+  const bool cut = !shown.isEmpty() && shown.last().endsWith(QChar(0x2026));
+  if (toolTip().isEmpty() == cut) setToolTip(cut ? whole : QString());
+
+  const int height = lineHeight * static_cast<int>(shown.size());
+  int y = room.top() + (room.height() - height) / 2;
+  for (const QString &line : shown) {
+    painter.drawText(QRect(room.left(), y, room.width(), lineHeight), static_cast<int>(alignment()) | Qt::TextSingleLine, line);
+    y += lineHeight;
+  }
+}

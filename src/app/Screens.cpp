@@ -1,0 +1,86 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#include "app/Screens.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QPixmap>
+#include <cstdio>
+
+#include "app/MessageBoxes.h"
+#include "app/frmDate.h"
+#include "app/frmMain.h"
+#include "content/contentManager.h"
+#include "content/frmSettings.h"
+#include "persons/frmPeople.h"
+#include "platform/AppPaths.h"
+#include "platform/UserSettings.h"
+
+namespace {
+
+const QDateTime Moment(QDate(2026, 11, 21), QTime(8, 45), Qt::UTC);
+
+struct Writer {
+  QDir folder;
+  bool failed = false;
+
+  void Write(QWidget &widget, const QString &name) {
+    QApplication::processEvents();
+    const QString path = folder.filePath(name + QStringLiteral(".png"));
+    if (widget.grab().save(path)) return;
+    failed = true;
+    std::fprintf(stderr, "orvani: the picture '%s' cannot be written.\n", qUtf8Printable(path));
+  }
+};
+
+}  // namespace
+
+int WriteScreens(const QString &folder, const AppPaths &paths, MessageBoxes &boxes) {
+  QDir().mkpath(folder);
+  Writer writer{QDir(folder)};
+  boxes.SetPresenter([](const Notice &notice) { std::fprintf(stderr, "orvani: %s\n", qUtf8Printable(notice.text)); });
+  MemoryUserSettings settings;
+  const qreal scale = qApp->devicePixelRatio();
+  const QString suffix = scale > 1 ? QStringLiteral("@%1x").arg(scale) : QString();
+
+  struct Size {
+    int width, height;
+  };
+  for (const Size &size : {Size{1280, 800}, Size{800, 600}, Size{1024, 768}, Size{1920, 1080}}) {
+    frmMain screen(paths, settings, boxes);
+    screen.SetClock([] { return Moment; });
+    screen.resize(size.width, size.height);
+    screen.show();
+    screen.Load();
+    const QString prefix = size.width == 1280 ? QString() : QStringLiteral("%1x%2-").arg(size.width).arg(size.height);
+    for (const contentManager::Row &row : contentManager::Table()) {
+      // The other sizes show the pages whose layout differs.
+      if (size.width != 1280 && (row.page == 7 || row.page == 8 || row.page == 10 || row.page > 22)) continue;
+      screen.Pages().ShowPage(row.page);
+      writer.Write(screen, prefix + QStringLiteral("page%1").arg(row.page, 2, 10, QLatin1Char('0')) + suffix);
+    }
+    screen.Pages().ShowPage(contentManager::HelpPage);
+    writer.Write(screen, prefix + QStringLiteral("help") + suffix);
+    if (size.width != 1280) continue;
+    for (const int style : {1, 2}) {
+      settings.SetIntValue(SettingKeys::KundStyle, style);
+      screen.Pages().ShowPage(6);
+      writer.Write(screen, QStringLiteral("page06-style%1").arg(style) + suffix);
+    }
+    settings.SetIntValue(SettingKeys::KundStyle, 0);
+
+    frmDate date([] { return Moment; });
+    date.SetMoment(Moment);
+    date.show();
+    writer.Write(date, QStringLiteral("frmDate") + suffix);
+    frmPeople people;
+    people.SetNames({"Anvik Telvar", "Asha Verma", "Maya O'Brien", "Ravi Kumar"});
+    people.SetCurrent("Anvik Telvar");
+    people.show();
+    writer.Write(people, QStringLiteral("frmPeople") + suffix);
+    frmSettings wizard(settings, clsIni(paths));
+    wizard.show();
+    writer.Write(wizard, QStringLiteral("frmSettings") + suffix);
+  }
+  return writer.failed ? 1 : 0;
+}

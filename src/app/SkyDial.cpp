@@ -1,0 +1,108 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#include "app/SkyDial.h"
+
+#include <QPainter>
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <numbers>
+#include <numeric>
+
+#include "content/Theme.h"
+#include "engine/clsPlanets.h"
+
+namespace {
+
+// Aries begins at the left, on the eastern horizon of a chart, and the signs run against the clock.
+QPointF OnCircle(const QPointF &centre, double radius, double degrees) {
+  const double angle = (180 + degrees) * std::numbers::pi / 180;
+  return centre + QPointF(std::cos(angle) * radius, -std::sin(angle) * radius);
+}
+
+}  // namespace
+
+SkyDial::SkyDial(QWidget *parent) : QWidget(parent) {
+  setObjectName("skyDial");
+  setAccessibleName(tr("Dial of the sky"));
+}
+
+void SkyDial::Show(const NowCardPage &page) {
+  shown = page;
+  filled = true;
+  QStringList words;
+  for (size_t i = 0; i < shown.names.size(); ++i)
+    words << QStringLiteral("%1 %2").arg(shown.names[i],
+                                         clsPlanets::PlanetRashiNameEngSmall(static_cast<int>(shown.longitudes[i] / 30) % 12 + 1));
+  setAccessibleDescription(words.join(QStringLiteral(", ")));
+  setToolTip(words.join(QStringLiteral("\n")));
+  update();
+}
+
+std::vector<double> SkyDial::SpreadApart(const std::vector<double> &longitudes, double apart) {
+  std::vector<size_t> order(longitudes.size());
+  std::iota(order.begin(), order.end(), 0);
+  std::sort(order.begin(), order.end(), [&](size_t a, size_t b) { return longitudes[a] < longitudes[b]; });
+  std::vector<double> placed(longitudes);
+  // Neighbours that stand too close push each other away by half of what is missing, round after round.
+  for (int round = 0; round < 200; ++round) {
+    bool moved = false;
+    for (size_t i = 0; i < order.size(); ++i) {
+      const bool last = i + 1 == order.size();
+      double &a = placed[order[i]], &b = placed[order[last ? 0 : i + 1]];
+      const double gap = b - a + (last ? 360 : 0);
+      if (gap >= apart - 1e-6 || order.size() < 2) continue;
+      a -= (apart - gap) / 2;
+      b += (apart - gap) / 2;
+      moved = true;
+    }
+    if (!moved) break;
+  }
+  return placed;
+}
+
+void SkyDial::paintEvent(QPaintEvent *) {
+  const Theme &theme = Theme::Current();
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const double side = std::min(width(), height()) - 2;
+  const QPointF centre = QRectF(rect()).center();
+  const double outer = side / 2, ring = outer * 0.80, planets = outer * 0.66, names = outer * 0.46, hub = outer * 0.24;
+  painter.setPen(QPen(theme.chart.line, 1));
+  painter.setBrush(theme.chart.paper);
+  painter.drawEllipse(centre, outer, outer);
+  painter.setBrush(theme.chart.card);
+  painter.drawEllipse(centre, ring, ring);
+  painter.setBrush(theme.selection);
+  painter.setPen(Qt::NoPen);
+  painter.drawEllipse(centre, hub, hub);
+
+  QFont small = font();
+  small.setPixelSize(std::max(8, static_cast<int>(outer * 0.105)));
+  painter.setFont(small);
+  for (int sign = 1; sign <= 12; ++sign) {
+    painter.setPen(QPen(theme.chart.line, 1));
+    painter.drawLine(OnCircle(centre, ring, (sign - 1) * 30), OnCircle(centre, outer, (sign - 1) * 30));
+    painter.setPen(theme.chart.muted);
+    const QPointF middle = OnCircle(centre, (ring + outer) / 2, sign * 30 - 15);
+    painter.drawText(QRectF(middle.x() - 20, middle.y() - 10, 40, 20), Qt::AlignCenter, clsPlanets::PlanetRashiNameEngSmall(sign));
+  }
+  if (!filled) return;
+
+  const std::vector<double> longitudes(shown.longitudes.begin(), shown.longitudes.end());
+  const std::vector<double> labels = SpreadApart(longitudes, 34);
+  small.setBold(true);
+  painter.setFont(small);
+  for (size_t i = 0; i < longitudes.size(); ++i) {
+    const bool accent = i == 0 || i == 7;  // the ascendant and the Moon
+    const QColor colour = accent ? theme.chart.saffron : theme.chart.maroon;
+    const QPointF dot = OnCircle(centre, planets, longitudes[i]), label = OnCircle(centre, names, labels[i]);
+    painter.setPen(QPen(theme.chart.line, 1));
+    painter.drawLine(dot, OnCircle(centre, names + outer * 0.09, labels[i]));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colour);
+    painter.drawEllipse(dot, outer * 0.035, outer * 0.035);
+    painter.setPen(accent ? theme.chart.saffron : theme.chart.ink);
+    painter.drawText(QRectF(label.x() - 20, label.y() - 10, 40, 20), Qt::AlignCenter, shown.names[i].left(2));
+  }
+}

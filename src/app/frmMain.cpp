@@ -1,0 +1,582 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#include "app/frmMain.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QDesktopServices>
+#include <QFrame>
+#include <QGridLayout>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QShortcut>
+#include <array>
+
+#include "analysis/NowCardPage.h"
+#include "analysis/PredictionPages.h"
+#include "app/ElidedLabel.h"
+#include "app/HeaderCard.h"
+#include "app/Maker.h"
+#include "app/MessageBoxes.h"
+#include "app/NavigationColumn.h"
+#include "app/NowCard.h"
+#include "app/SamplePerson.h"
+#include "app/frmDate.h"
+#include "chart/ImageButton.h"
+#include "content/Skin.h"
+#include "content/Theme.h"
+#include "content/contentManager.h"
+#include "content/frmSettings.h"
+#include "content/pages/ChogadiyaView.h"
+#include "content/pages/CreditsView.h"
+#include "content/pages/DashaView.h"
+#include "content/pages/EvilMuhurthaView.h"
+#include "content/pages/HelpView.h"
+#include "content/pages/HoraView.h"
+#include "content/pages/LargeChartView.h"
+#include "content/pages/ListView.h"
+#include "content/pages/OverviewView.h"
+#include "content/pages/PanchangView.h"
+#include "content/pages/PlanetTableView.h"
+#include "content/pages/RichTextPage.h"
+#include "content/pages/RichTextView.h"
+#include "content/pages/TrishulView.h"
+#include "persons/frmPeople.h"
+#include "platform/Errors.h"
+#include "platform/Notices.h"
+#include "platform/StoreKeeper.h"
+
+namespace {
+
+constexpr int ChartListPage = 1, PredictionListPage = 2, CreditsPage = 5, OverviewPageNumber = 18;
+
+// Index of a list entry and the page that it goes to.
+struct ListRow {
+  int index, page;
+};
+constexpr std::array<ListRow, 11> ChartListRows{
+    {{0, 16}, {1, 22}, {12, 6}, {13, 11}, {14, 7}, {15, 12}, {16, 9}, {17, 10}, {18, 8}, {20, 17}, {23, 13}}};
+constexpr std::array<ListRow, 8> PredictionListRows{{{0, 28}, {1, 21}, {2, 15}, {3, 23}, {4, 25}, {5, 27}, {11, 19}, {12, 24}}};
+
+// The order in which the lists show their entries.
+constexpr std::array ChartListOrder{12, 18, 14, 16, 17, 23, 13, 15, 0, 20, 1};
+constexpr std::array PredictionListOrder{11, 0, 4, 5, 12, 3, 2, 1};
+
+template <size_t N>
+int PageOf(const std::array<ListRow, N> &rows, int index) {
+  for (const ListRow &row : rows)
+    if (row.index == index) return row.page;
+  return 0;
+}
+
+QString TitleKeyOf(int page) {
+  for (const contentManager::Row &row : contentManager::Table())
+    if (row.page == page) return QLatin1String(row.titleKey);
+  return {};
+}
+
+template <size_t N, size_t M>
+std::vector<ListView::Entry> ListEntries(const std::array<int, N> &order, const std::array<ListRow, M> &rows) {
+  std::vector<ListView::Entry> entries;
+  for (const int index : order) {
+    ListView::Entry entry;
+    entry.index = index;
+    entry.page = PageOf(rows, index);
+    entry.titleKey = TitleKeyOf(entry.page);
+    entries.push_back(std::move(entry));
+  }
+  return entries;
+}
+
+// The navigation row that leads to a page.
+const char *SectionOf(int page) {
+  if (page == OverviewPageNumber) return "fflpHome";
+  if (page == CreditsPage) return "flpCredits";
+  if (page == contentManager::HelpPage) return "flpHelp";
+  if (page == ChartListPage) return "flpCharts";
+  if (page == PredictionListPage) return "flpPredictions";
+  for (const ListRow &row : ChartListRows)
+    if (row.page == page) return "flpCharts";
+  return "flpPredictions";
+}
+
+}  // namespace
+
+int frmMain::PageOfChartList(int index) { return PageOf(ChartListRows, index); }
+int frmMain::PageOfPredictionList(int index) { return PageOf(PredictionListRows, index); }
+
+frmMain::frmMain(AppPaths applicationPaths, UserSettings &userSettings, MessageBoxes &messageBoxes, QWidget *parent)
+    : QMainWindow(parent), paths(applicationPaths), settings(userSettings), ini(std::move(applicationPaths)), boxes(messageBoxes) {
+  setObjectName("frmMain");
+  setWindowTitle(Maker::Title);
+  setMinimumSize(800, 600);
+  resize(1280, 800);
+  clock = [] { return QDateTime(QDate::currentDate(), QTime::currentTime(), Qt::UTC); };
+  endProgram = [] { QCoreApplication::exit(0); };
+  openAddress = [](const QUrl &address) { QDesktopServices::openUrl(address); };
+
+  auto *central = new QWidget(this);
+  auto *rows = new QVBoxLayout(central);
+  rows->setContentsMargins(0, 0, 0, 0);
+  rows->setSpacing(0);
+  setCentralWidget(central);
+  MakeHeader();
+  rows->addWidget(header);
+  MakeBody();
+  auto *body = new QHBoxLayout;
+  body->setContentsMargins(Grid::Margin, Grid::Margin, Grid::Margin, Grid::Margin);
+  body->setSpacing(Grid::Margin);
+  body->addWidget(leftColumn);
+  body->addWidget(host, 1);
+  rows->addLayout(body, 1);
+  MakeKeys();
+}
+
+frmMain::~frmMain() = default;
+
+// --- making ---------------------------------------------------------------------------------------------------------
+
+void frmMain::MakeHeader() {
+  header = new QFrame(centralWidget());
+  header->setProperty("role", "header");
+  auto *row = new QHBoxLayout(header);
+  row->setContentsMargins(Grid::Margin, 10, Grid::Margin, 8);
+  row->setSpacing(Grid::Margin);
+
+  auto *brand = new QWidget(header);
+  brand->setObjectName("brand");
+  auto *brandRow = new QHBoxLayout(brand);
+  brandRow->setContentsMargins(8, 0, 0, 0);
+  brandRow->setSpacing(14);
+  auto *mark = new QLabel(brand);
+  mark->setPixmap(Skin::Pixmap(QStringLiteral("mark"), QSize(46, 46), devicePixelRatioF()));
+  auto *names = new QVBoxLayout;
+  names->setSpacing(0);
+  auto *title = new QLabel(Maker::Title, brand);
+  title->setProperty("role", "brand");
+  auto *sub = new QLabel(tr("Daily Astrology"), brand);
+  sub->setProperty("role", "caption");
+  names->addStretch();
+  names->addWidget(title);
+  names->addWidget(sub);
+  names->addStretch();
+  brandRow->addWidget(mark);
+  brandRow->addLayout(names);
+  brandRow->addStretch();
+  row->addWidget(brand);
+
+  auto *right = new QVBoxLayout;
+  right->setSpacing(6);
+  auto *cards = new QHBoxLayout;
+  cards->setSpacing(12);
+  personCard = new HeaderCard("lblPersonName", "lblBDate", "flpDropNameList", header);
+  personCard->Button()->setAccessibleName(tr("Change person"));
+  connect(personCard, &HeaderCard::Opened, this, &frmMain::OpenPeople);
+  dateCard = new HeaderCard("lblNowInfo", "lblNowIn", "flpDropToday", header);
+  dateCard->Button()->setAccessibleName(tr("Change analysis date"));
+  connect(dateCard, &HeaderCard::Opened, this, &frmMain::OpenDate);
+  cmbLang = new QComboBox(header);
+  cmbLang->setObjectName("cmbLang");
+  cmbLang->setAccessibleName(tr("Language"));
+  cmbLang->setToolTip(tr("Language"));
+  cmbLang->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
+  cmbLang->setMinimumWidth(86);
+  connect(cmbLang, &QComboBox::activated, this, &frmMain::OnLanguageChosen);
+  cards->addWidget(personCard, 5);
+  cards->addWidget(dateCard, 5);
+  cards->addWidget(cmbLang, 1);
+  right->addLayout(cards, 1);
+
+  auto *titleRow = new QHBoxLayout;
+  titleRow->setSpacing(12);
+  auto *back = new ImageButton(header);
+  back->setObjectName("imgBack");
+  back->SetNormalPic(Skin::Picture(QStringLiteral("imgBack")));
+  back->SetHoverPic(Skin::Picture(QStringLiteral("imgBack"), Skin::State::Hover));
+  back->SetDownPic(Skin::Picture(QStringLiteral("imgBack"), Skin::State::Down));
+  back->setText(tr("Back"));
+  back->setAccessibleName(tr("Back"));
+  back->SetToolTip(tr("Back to the page before (Alt+Left)"));
+  back->setFixedSize(34, 34);
+  connect(back, &QAbstractButton::clicked, this, [this] { pages->GoBack(); });
+  lblMainChartName = new QLabel(header);
+  lblMainChartName->setObjectName("lblMainChartName");
+  lblMainChartName->setProperty("role", "title");
+  lblHint = new ElidedLabel(header);
+  lblHint->setObjectName("lblHint");
+  lblHint->setProperty("role", "caption");
+  lblHint->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  titleRow->addWidget(back);
+  titleRow->addWidget(lblMainChartName);
+  titleRow->addWidget(lblHint, 1);
+  right->addLayout(titleRow);
+  row->addLayout(right, 1);
+}
+
+void frmMain::MakeBody() {
+  leftColumn = new QWidget(centralWidget());
+  auto *column = new QVBoxLayout(leftColumn);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(12);
+  navigation = new NavigationColumn({{"fflpHome", tr("Home"), tr("Go to the main page")},
+                                     {"flpCharts", tr("Charts"), tr("See astrological charts.")},
+                                     {"flpPredictions", tr("Predictions"), tr("See predictions.")},
+                                     {"flpPrint", tr("Print"), tr("Print analysis.")},
+                                     {"flpSettings", tr("Settings"), tr("Change program settings.")},
+                                     {"flpCredits", tr("Credits"), tr("Credits list.")},
+                                     {"flpWebsite", tr("Website"), Maker::WebAddress},
+                                     {"flpHelp", tr("Help"), tr("See help file.")},
+                                     {"flpExit", tr("Exit"), tr("Exit program.")}},
+                                    leftColumn);
+  connect(navigation, &NavigationColumn::Pressed, this, &frmMain::OnNavigation);
+  connect(navigation, &NavigationColumn::Hint, lblHint, &QLabel::setText);
+  for (HeaderCard *card : {personCard, dateCard}) {
+    const QString hint = card == personCard ? tr("Change person.") : tr("Change analysis date.");
+    card->Button()->SetToolTip(hint);
+    connect(card->Button(), &ImageButton::MouseEnter, this, [this, hint] { lblHint->setText(hint); });
+    connect(card->Button(), &ImageButton::MouseExit, this, [this] { lblHint->clear(); });
+  }
+  nowCard = new NowCard(leftColumn);
+  column->addWidget(navigation, 1);
+  column->addWidget(nowCard);
+  host = new QWidget(centralWidget());
+  hostGrid = new QGridLayout(host);
+  hostGrid->setContentsMargins(0, 0, 0, 0);
+}
+
+void frmMain::AddView(int page, PageView *view) {
+  hostGrid->addWidget(view, 0, 0);
+  connect(view, &PageView::GoToPage, this, [this](int target) { pages->ShowPage(target); });
+  pages->AddPage(page, {view, [this, view] { view->Fill(*session); }, [view](const SetFonts &f) { view->ApplyFonts(f); }});
+}
+
+void frmMain::AddLargeChart(int page, int kind) {
+  pages->AddPage(page, {largeChart,
+                        [this, kind] {
+                          largeChart->SetKind(kind);
+                          largeChart->Fill(*session);
+                        },
+                        [this](const SetFonts &f) { largeChart->ApplyFonts(f); }});
+}
+
+void frmMain::AddRichText(int page) {
+  pages->AddPage(page, {richText,
+                        [this, page] {
+                          richText->Text().Clear();
+                          const clsPlanets &today = session->TodayChart();
+                          richText->SetHeads(today.clsPerson().GetBirthDate().toString(QStringLiteral("dddd, d MMMM yyyy")),
+                                             tr("Moon in %1, %2, %3").arg(today.RashiName(), today.NakNamePlanet(7), today.TithiName()));
+                          const PredictionPage filled = FillPredictionPage(page, session->BirthChart(), session->TodayChart());
+                          for (const PredictionPage::Line &line : filled.lines) {
+                            if (line.isHead)
+                              richText->Text().AppendHead(line.text);
+                            else
+                              richText->Text().AppendBody(line.text);
+                          }
+                        },
+                        [this](const SetFonts &f) { richText->ApplyFonts(f); }});
+}
+
+void frmMain::MakePages() {
+  pages = new contentManager(*session, *lblMainChartName, this);
+  pages->SetFillGuard([this] { return std::make_shared<MessageBoxes::Fill>(boxes); });
+  connect(pages, &contentManager::PageShown, this, &frmMain::OnPageShown);
+
+  auto *charts =
+      new ListView(QStringLiteral("picChartList"), QStringLiteral("flpChartList"), ListEntries(ChartListOrder, ChartListRows), host);
+  connect(charts, &ListView::Chosen, this, [this](int index) { pages->ShowPage(PageOfChartList(index)); });
+  AddView(ChartListPage, charts);
+  auto *predictions = new ListView(QStringLiteral("picPrediList"), QStringLiteral("flpPrediList"),
+                                   ListEntries(PredictionListOrder, PredictionListRows), host);
+  connect(predictions, &ListView::Chosen, this, [this](int index) { pages->ShowPage(PageOfPredictionList(index)); });
+  AddView(PredictionListPage, predictions);
+
+  AddView(CreditsPage, new CreditsView(QCoreApplication::applicationVersion(), Maker::WebAddress, host));
+  AddView(contentManager::HelpPage, new HelpView(paths.Ephe(QStringLiteral("HELP/english.html")), host));
+  AddView(9, new PlanetTableView(PlanetTableView::Chart::Birth, host));
+  AddView(10, new PlanetTableView(PlanetTableView::Chart::Today, host));
+  AddView(11, new DashaView(host));
+  AddView(12, new TrishulView(paths, host));
+  AddView(13, new PanchangView(host));
+  AddView(16, new ChogadiyaView(host));
+  AddView(17, new HoraView(host));
+  AddView(OverviewPageNumber, new OverviewView(host));
+  AddView(22, new EvilMuhurthaView(host));
+
+  largeChart = new LargeChartView(host);
+  hostGrid->addWidget(largeChart, 0, 0);
+  AddLargeChart(6, 1);
+  AddLargeChart(8, 2);
+  AddLargeChart(7, 3);
+  richText = new RichTextPage(host);
+  hostGrid->addWidget(richText, 0, 0);
+  for (const int page : {15, 19, 20, 21, 23, 24, 25, 27, 28}) AddRichText(page);
+}
+
+void frmMain::MakeKeys() {
+  const auto key = [this](const QKeySequence &sequence, auto action) {
+    connect(new QShortcut(sequence, this), &QShortcut::activated, this, action);
+  };
+  key(QKeySequence::Print, [this] { OpenPrint(); });
+  key(QKeySequence(Qt::Key_F1), [this] { OpenHelp(); });
+  key(QKeySequence(Qt::ALT | Qt::Key_Left), [this] { pages->GoBack(); });
+  key(QKeySequence(Qt::Key_F5), [this] { pages->ShowAgain(); });
+  key(QKeySequence(Qt::CTRL | Qt::Key_K), [this] { OpenPeople(); });
+  key(QKeySequence(Qt::CTRL | Qt::Key_D), [this] { OpenDate(); });
+  key(QKeySequence(Qt::ALT | Qt::Key_Home), [this] { pages->ShowPage(OverviewPageNumber); });
+  key(QKeySequence(Qt::CTRL | Qt::Key_Left), [this] { ChangeMoment(session->AnalysisMoment().addDays(-1)); });
+  key(QKeySequence(Qt::CTRL | Qt::Key_Right), [this] { ChangeMoment(session->AnalysisMoment().addDays(1)); });
+}
+
+// --- loading ----------------------------------------------------------------------------------------------------------
+
+void frmMain::Load() {
+  OpenDatabases();
+  MakePages();
+  LoadLanguages();
+  SelectLanguage();
+  SelectLastPerson();
+  session->BuildAnalysis(clock());
+  ShowPersonHeader();
+  ChangeMouseIcons();
+  PlaceContent();
+  pages->ShowPage(OverviewPageNumber);
+}
+
+// A store that cannot be opened is told, and its kept copy offered; the program goes on without it.
+std::shared_ptr<Database> frmMain::OpenStore(const QString &path) {
+  try {
+    return StoreKeeper::OpenUserStore(path);
+  } catch (const StoreError &error) {
+    const bool canRestore =
+        StoreKeeper::KeptMoment(path) && (error.Reason() == StoreError::Kind::Damaged || error.Reason() == StoreError::Kind::Missing ||
+                                          error.Reason() == StoreError::Kind::Foreign);
+    if (!canRestore) {
+      Notices::Show({Notice::Kind::Critical, Maker::Title, error.Sentence()});
+      return nullptr;
+    }
+    if (!boxes.Ask(Maker::Title, error.Sentence() + QStringLiteral("\n\n") + tr("Put the kept copy back now?"))) return nullptr;
+  }
+  try {
+    StoreKeeper::RestoreCopy(path);
+    return StoreKeeper::OpenUserStore(path);
+  } catch (const StoreError &error) {
+    Notices::Show({Notice::Kind::Critical, Maker::Title, error.Sentence()});
+    return nullptr;
+  }
+}
+
+void frmMain::OpenDatabases() {
+  SelvaniDailyMod::Stores stores;
+  stores.personDb = OpenStore(paths.RecosPath());
+  stores.dailyDb = OpenStore(paths.DailyPath());
+  session = std::make_unique<SelvaniDailyMod>(settings, stores, [this](const QString &name) {
+    try {
+      ini.WriteIniString(QStringLiteral("LastPerson"), name);
+    } catch (const StoreError &error) {
+      Notices::Show({Notice::Kind::Warning, QString(), error.Sentence()});
+    }
+  });
+}
+
+// This program lists the one language "English", whatever other rows the table holds.
+void frmMain::LoadLanguages() {
+  languages.clear();
+  cmbLang->clear();
+  for (LanguageRow &language : OfferedLanguages(paths)) {
+    if (language.Name != QLatin1String("English") || !language.Include) continue;
+    cmbLang->addItem(language.Name);
+    languages.push_back(std::move(language));
+  }
+}
+
+void frmMain::SelectLanguage() {
+  if (languages.empty()) {
+    // No language is offered: the words' own warning tells why, and the pages stay empty.
+    OpenLanguageDb(paths, QStringLiteral("ENGLISH"));
+    return;
+  }
+  bool isIndex = false;
+  const int index = ini.GetIniString(QStringLiteral("SelLang"), QStringLiteral("0")).toInt(&isIndex);
+  const int chosen = isIndex && index >= 0 && index < cmbLang->count() ? index : 0;
+  cmbLang->setCurrentIndex(chosen);
+  OnLanguageChosen(chosen);
+}
+
+void frmMain::OnLanguageChosen(int index) {
+  if (index < 0 || index >= static_cast<int>(languages.size())) return;
+  const LanguageRow &language = languages[static_cast<size_t>(index)];
+  fonts = SetFonts(language);
+  pages->SetFontsOf(fonts);
+  const std::shared_ptr<TextDb> words = OpenLanguageDb(paths, language.Directory);
+  if (!words) return;
+  ini.WriteIniString(QStringLiteral("SelLang"), QString::number(index));
+  session->ChangeLanguage(words);
+  if (session->HasAnalysis()) {
+    ShowMoment();
+    pages->ShowAgain();
+  }
+}
+
+void frmMain::SelectLastPerson() {
+  try {
+    if (session->LoadLastPerson(ini.GetIniString(QStringLiteral("LastPerson"), QString()))) return;
+  } catch (const Error &error) {
+    Notices::Show({Notice::Kind::Warning, QString(), error.Sentence()});
+  }
+  if (!session->HasPerson()) session->SetBirthPerson(SamplePerson());
+}
+
+void frmMain::ChangeMouseIcons() {
+  for (ImageButton *button : findChildren<ImageButton *>()) button->SetMousePointer(99);
+}
+
+// --- what the header tells ------------------------------------------------------------------------------------------------
+
+void frmMain::ShowPersonHeader() {
+  const PersonHeader lines = session->ShowPersonHeader();
+  personCard->Main()->setText(lines.lblPersonName);
+  personCard->Second()->setText(lines.lblBDate);
+  dateCard->Second()->setText(lines.lblNowIn);
+  QFont mainLine = fonts.NormalFont();
+  mainLine.setBold(true);
+  personCard->Main()->setFont(mainLine);
+  dateCard->Main()->setFont(mainLine);
+  fonts.SetSmallFont(*personCard->Second());
+  fonts.SetSmallFont(*dateCard->Second());
+  fonts.SetSmallFont(*lblHint);
+  ShowMoment();
+}
+
+void frmMain::ShowMoment() {
+  dateCard->Main()->setText(session->NowInfo());
+  nowCard->Fill(FillNowCard(session->TodayChart()));
+}
+
+void frmMain::ChangePerson(const QString &name) {
+  try {
+    if (!session->LoadPerson(name)) return;
+    session->BuildAnalysis(clock());
+  } catch (const Error &error) {
+    Notices::Show({Notice::Kind::Warning, QString(), error.Sentence()});
+    return;
+  }
+  ShowPersonHeader();
+  pages->ShowAgain();
+}
+
+void frmMain::ChangeMoment(const QDateTime &moment) {
+  try {
+    session->BuildAnalysis(moment);
+  } catch (const Error &error) {
+    Notices::Show({Notice::Kind::Warning, QString(), error.Sentence()});
+    return;
+  }
+  ShowMoment();
+  pages->ShowAgain();
+}
+
+// --- actions --------------------------------------------------------------------------------------------------------------
+
+void frmMain::OnNavigation(const QString &name) {
+  if (name == QLatin1String("fflpHome")) pages->ShowPage(OverviewPageNumber);
+  if (name == QLatin1String("flpCharts")) pages->ShowPage(ChartListPage);
+  if (name == QLatin1String("flpPredictions")) pages->ShowPage(PredictionListPage);
+  if (name == QLatin1String("flpCredits")) pages->ShowPage(CreditsPage);
+  if (name == QLatin1String("flpSettings")) OpenSettings();
+  if (name == QLatin1String("flpWebsite")) OpenWebsite();
+  if (name == QLatin1String("flpHelp")) OpenHelp();
+  if (name == QLatin1String("flpPrint")) OpenPrint();
+  if (name == QLatin1String("flpExit")) AskExit();
+}
+
+void frmMain::OpenPeople() {
+  if (!session->OpenStores().personDb) {
+    Notices::Show({Notice::Kind::Warning, QString(), tr("The store of persons is not open, so there is nobody to choose.")});
+    return;
+  }
+  frmPeople people(this);
+  people.SetManageVisible(false);
+  people.Fill(*session->OpenStores().personDb);
+  people.SetCurrent(session->BirthChart().clsPerson().Name());
+  connect(&people, &frmPeople::Chosen, this, &frmMain::ChangePerson);
+  people.OpenBelow(*personCard);
+  people.exec();
+}
+
+void frmMain::OpenDate() {
+  frmDate date(clock, this);
+  date.SetMoment(session->AnalysisMoment());
+  connect(&date, &frmDate::Chosen, this, &frmMain::ChangeMoment);
+  date.OpenBelow(*dateCard);
+  date.exec();
+}
+
+void frmMain::OpenSettings() {
+  frmSettings wizard(settings, ini, this);
+  wizard.exec();
+  SelectLastPerson();
+  ChangeMoment(session->AnalysisMoment());
+  ShowPersonHeader();
+}
+
+void frmMain::OpenPrint() {}
+
+void frmMain::OpenHelp() { pages->ShowPage(contentManager::HelpPage); }
+
+void frmMain::OpenWebsite() { openAddress(QUrl(Maker::WebAddress)); }
+
+void frmMain::AskExit() {
+  if (boxes.Ask(tr("Exit ") + Maker::Title + QLatin1Char('?'), tr("Do you really want to exit?"))) endProgram();
+}
+
+void frmMain::OnPageShown(int page) { navigation->Mark(SectionOf(page)); }
+
+// --- the window -------------------------------------------------------------------------------------------------------------
+
+// Closing keeps the place and only asks: the question alone ends the program.
+void frmMain::closeEvent(QCloseEvent *event) {
+  event->ignore();
+  SavePosition();
+  AskExit();
+}
+
+void frmMain::SavePosition() {
+  if (isMinimized()) return;
+  settings.SetIntValue(SettingKeys::WindowState, isMaximized() ? 2 : 0);
+  if (isMaximized() || isFullScreen()) return;
+  settings.SetIntValue(SettingKeys::TopPos, y());
+  settings.SetIntValue(SettingKeys::LeftPos, x());
+  settings.SetIntValue(SettingKeys::Width, width());
+  settings.SetIntValue(SettingKeys::Height, height());
+}
+
+void frmMain::resizeEvent(QResizeEvent *event) {
+  QMainWindow::resizeEvent(event);
+  PlaceContent();
+}
+
+void frmMain::PlaceContent() {
+  const QSize inner = centralWidget()->size();
+  const QRect content = contentManager::ContentRect(inner);
+  // The header ends above the content, and the left column beside it.
+  const int left = std::max(206, static_cast<int>(inner.width() * 0.3125) - 2 * Grid::Margin);
+  leftColumn->setFixedWidth(std::min(left, 400));
+  header->findChild<QWidget *>(QStringLiteral("brand"))->setFixedWidth(leftColumn->width());
+  header->setFixedHeight(std::clamp(content.top() - 2 * Grid::Margin, 112, 160));
+  nowCard->SetDialVisible(inner.height() >= 700 && leftColumn->width() >= 330);
+  if (!largeChart) return;
+  centralWidget()->layout()->activate();
+  const QRect inHost(host->mapFrom(centralWidget(), content.topLeft()), content.size());
+  largeChart->SetChartRect(inHost);
+  richText->SetTextRect(inHost);
+}
+
+void frmMain::keyPressEvent(QKeyEvent *event) {
+  if (event->key() == Qt::Key_Escape)
+    close();
+  else
+    QMainWindow::keyPressEvent(event);
+}

@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+// orvani: the desktop program.
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QIcon>
+#include <QMessageBox>
+#include <cstdio>
+
+#include "Version.h"
+#include "app/Maker.h"
+#include "app/MessageBoxes.h"
+#include "app/Screens.h"
+#include "app/frmMain.h"
+#include "app/frmSplash.h"
+#include "content/Skin.h"
+#include "content/Theme.h"
+#include "content/frmSettings.h"
+#include "platform/Errors.h"
+
+namespace {
+
+// A fault that reaches the event loop shows its sentence, and the program goes on.
+class Application : public QApplication {
+ public:
+  using QApplication::QApplication;
+
+  bool notify(QObject *receiver, QEvent *event) override {
+    try {
+      return QApplication::notify(receiver, event);
+    } catch (const Error &error) {
+      Notices::Show({Notice::Kind::Critical, Maker::Title, error.Sentence()});
+    } catch (const std::exception &error) {
+      Notices::Show({Notice::Kind::Critical, Maker::Title, QString::fromLocal8Bit(error.what())});
+    }
+    return false;
+  }
+};
+
+}  // namespace
+
+int main(int argc, char **argv) {
+  Application app(argc, argv);
+  QApplication::setApplicationName(QStringLiteral("orvani"));
+  QApplication::setApplicationDisplayName(Maker::Title);
+  QApplication::setApplicationVersion(QStringLiteral(ORVANI_VERSION));
+  QApplication::setDesktopFileName(QStringLiteral("orvani"));
+
+  QCommandLineParser parser;
+  parser.setApplicationDescription(QStringLiteral("The day of a person by the rules of Vedic astrology."));
+  parser.addHelpOption();
+  parser.addVersionOption();
+  const QCommandLineOption appDir(QStringLiteral("app-dir"), QStringLiteral("The folder that holds the data folder EPHE."),
+                                  QStringLiteral("DIR"));
+  const QCommandLineOption screens(QStringLiteral("screens"), QStringLiteral("Write a picture of every page into a folder and end."),
+                                   QStringLiteral("DIR"));
+  parser.addOptions({appDir, screens});
+  parser.process(app);
+
+  try {
+    Theme::Apply(app);
+    const AppPaths paths = AppPaths::Locate(parser.value(appDir));
+    Skin::SetFolder(paths.Ephe(QStringLiteral("SKIN")));
+    QApplication::setWindowIcon(Skin::Picture(QStringLiteral("mark")));
+    MessageBoxes boxes;
+    if (parser.isSet(screens)) return WriteScreens(parser.value(screens), paths, boxes);
+
+    FileUserSettings settings;
+    std::unique_ptr<frmMain> mainScreen;
+    bool ended = false;
+    frmSplash splash(paths, settings, ORVANI_VERSION_MAJOR, ORVANI_VERSION_MINOR,
+                     {{},
+                      [&] { frmSettings(settings, clsIni(paths)).exec(); },
+                      [&] {
+                        mainScreen = std::make_unique<frmMain>(paths, settings, boxes);
+                        mainScreen->Load();
+                        mainScreen->show();
+                      },
+                      [&] { ended = true; }});
+    splash.Load();
+    if (ended || !mainScreen) return 1;
+    return QApplication::exec();
+  } catch (const Error &error) {
+    std::fprintf(stderr, "orvani: %s\n", error.what());
+    QMessageBox::critical(nullptr, Maker::Title, error.Sentence());
+    return 1;
+  }
+}

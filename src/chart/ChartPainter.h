@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#pragma once
+
+#include <QRectF>
+#include <QString>
+
+#include <array>
+
+#include "chart/ChartLayout.h"
+#include "chart/ChartPalette.h"
+#include "chart/TextFit.h"
+
+class QPainter;
+
+/// Paints a chart into a rectangle of any painter. Text keeps the size of its font on a small chart, grows with a large one,
+/// and is made smaller or set closer where a house is crowded.
+class ChartPainter {
+ public:
+  struct Sizes {
+    double pixel = 1;          ///< how many units of the rectangle make one screen pixel; more than 1 on paper
+    int smallest = 9;          ///< smallest text, in screen pixels
+    bool middle = true;        ///< texts stand in the middle of their box, otherwise at its top edge
+    double numberScale = 0.8;  ///< house numbers against their font's size: they stand back behind the planets
+  };
+
+  ChartPainter(ChartPalette palette, Sizes sizes) : palette_(palette), sizes_(sizes) {}
+  explicit ChartPainter(ChartPalette palette) : ChartPainter(palette, Sizes()) {}
+
+  void Paint(QPainter &painter, const ChartLayout &layout, const QRectF &target) const;
+
+  /// Where every text comes to stand in the rectangle, on a device with so many dots to one unit of it.
+  struct Texts {
+    std::array<FittedText, ChartLayout::Cells> planets;
+    struct Number {
+      QString text;
+      QRectF box;  ///< around the digits themselves; empty where no number shows
+    };
+    std::array<Number, ChartLayout::Cells> numbers;
+    int numberSize = 0;
+  };
+  Texts Arrange(const ChartLayout &layout, const QRectF &target, double dots = 1) const;
+
+ private:
+  ChartPalette palette_;
+  Sizes sizes_;
+};

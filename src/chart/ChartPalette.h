@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#pragma once
+
+#include <QColor>
+
+class QPalette;
+
+/// The colours of the one skin by their roles.
+struct ChartPalette {
+  QColor paper;
+  QColor card;
+  QColor line;
+  QColor ink;
+  QColor muted;
+  QColor maroon;   ///< chart lines
+  QColor saffron;  ///< the one accent: the ascendant, the focus
+  QColor gold;     ///< house numbers
+
+  static ChartPalette Light();
+  static ChartPalette Dark();
+
+  /// Dark on a dark desktop, told by its window colour.
+  static ChartPalette For(const QPalette &desktop);
+};

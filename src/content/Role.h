@@ -1,0 +1,13 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#pragma once
+
+#include <QStyle>
+#include <QWidget>
+
+// Gives a widget that may be dressed already another role of the theme; the style reads the role only when it dresses.
+inline void SetRole(QWidget &widget, const char *role) {
+  widget.setProperty("role", role);
+  widget.style()->unpolish(&widget);
+  widget.style()->polish(&widget);
+}

@@ -1,0 +1,84 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#include "content/Skin.h"
+
+#include <QFile>
+#include <QIconEngine>
+#include <QPainter>
+#include <QSvgRenderer>
+#include <memory>
+
+#include "content/Theme.h"
+
+namespace {
+
+QString &Folder() {
+  static QString folder;
+  return folder;
+}
+
+// The drawings are made for light paper; on a dark desktop their ink and their grounds change roles with the theme.
+QByteArray InTheme(QByteArray drawing) {
+  const Theme &theme = Theme::Current();
+  if (!theme.dark) return drawing;
+  const std::pair<const char *, QColor> colours[] = {
+      {"#2B2320", theme.chart.ink},    {"#F4E7D3", theme.selection},   {"#B9540F", theme.chart.saffron},
+      {"#7A1F2B", theme.chart.maroon}, {"#E4D9C8", theme.chart.line},  {"#FBF7F0", theme.chart.paper},
+      {"#FFFDF9", theme.chart.card},   {"#75685E", theme.chart.muted}, {"#B98A2F", theme.chart.gold}};
+  for (const auto &[light, dark] : colours) {
+    drawing.replace(light, dark.name().toLatin1());
+    drawing.replace(QByteArray(light).toLower(), dark.name().toLatin1());
+  }
+  return drawing;
+}
+
+QByteArray Drawing(const QString &name, Skin::State state) {
+  const char *suffix = state == Skin::State::Hover ? "-hover" : state == Skin::State::Down ? "-down" : "";
+  QFile file(QStringLiteral("%1/%2%3.svg").arg(Folder(), name, QLatin1String(suffix)));
+  return file.open(QIODevice::ReadOnly) ? InTheme(file.readAll()) : QByteArray();
+}
+
+// Draws the SVG at every size and scale that is asked for.
+class DrawingEngine : public QIconEngine {
+ public:
+  explicit DrawingEngine(std::shared_ptr<QSvgRenderer> drawing) : renderer(std::move(drawing)) {}
+
+  void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State) override {
+    if (mode == QIcon::Disabled) painter->setOpacity(0.4);
+    QSizeF size = renderer->defaultSize();
+    size.scale(rect.size(), Qt::KeepAspectRatio);
+    QRectF room(QPointF(), size);
+    room.moveCenter(QRectF(rect).center());
+    renderer->render(painter, room);
+  }
+  QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override {
+    QPixmap picture(size);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    paint(&painter, QRect(QPoint(), size), mode, state);
+    return picture;
+  }
+  QIconEngine *clone() const override { return new DrawingEngine(renderer); }
+  QList<QSize> availableSizes(QIcon::Mode, QIcon::State) override { return {renderer->defaultSize()}; }
+  QSize actualSize(const QSize &size, QIcon::Mode, QIcon::State) override { return size; }
+
+ private:
+  std::shared_ptr<QSvgRenderer> renderer;
+};
+
+}  // namespace
+
+namespace Skin {
+
+void SetFolder(const QString &folder) { Folder() = folder; }
+
+QIcon Picture(const QString &name, State state) {
+  const QByteArray drawing = Drawing(name, state);
+  if (drawing.isEmpty()) return {};
+  auto renderer = std::make_shared<QSvgRenderer>(drawing);
+  return renderer->isValid() ? QIcon(new DrawingEngine(std::move(renderer))) : QIcon();
+}
+
+QPixmap Pixmap(const QString &name, const QSize &size, qreal devicePixelRatio) { return Picture(name).pixmap(size, devicePixelRatio); }
+
+}  // namespace Skin

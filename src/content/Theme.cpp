@@ -1,0 +1,152 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#include "content/Theme.h"
+
+#include <QApplication>
+#include <QFont>
+#include <QPalette>
+
+namespace {
+
+Theme Light() {
+  Theme theme;
+  theme.chart = ChartPalette::Light();
+  theme.good = QColor(0x3F, 0x6B, 0x46);
+  theme.goodBack = QColor(0xE3, 0xEF, 0xE2);
+  theme.bad = QColor(0x9C, 0x3A, 0x34);
+  theme.badBack = QColor(0xF8, 0xE4, 0xE1);
+  theme.selection = QColor(0xF4, 0xE7, 0xD3);
+  theme.tint = QColor(0xFB, 0xF7, 0xF0);
+  return theme;
+}
+
+Theme Dark() {
+  Theme theme;
+  theme.chart = ChartPalette::Dark();
+  theme.good = QColor(0x9C, 0xCB, 0xA2);
+  theme.goodBack = QColor(0x26, 0x3A, 0x2A);
+  theme.bad = QColor(0xEE, 0xA0, 0x98);
+  theme.badBack = QColor(0x45, 0x28, 0x26);
+  theme.selection = QColor(0x46, 0x37, 0x28);
+  theme.tint = theme.chart.paper;
+  theme.dark = true;
+  return theme;
+}
+
+Theme &Chosen() {
+  static Theme theme = Light();
+  return theme;
+}
+
+}  // namespace
+
+const Theme &Theme::Current() { return Chosen(); }
+
+void Theme::Apply(QApplication &application) {
+  const QColor window = application.palette().color(QPalette::Window);
+  Chosen() = window.lightness() < 128 ? Dark() : Light();
+  const Theme &theme = Current();
+  QPalette palette = application.palette();
+  palette.setColor(QPalette::Window, theme.chart.paper);
+  palette.setColor(QPalette::Base, theme.chart.card);
+  palette.setColor(QPalette::AlternateBase, theme.tint);
+  palette.setColor(QPalette::Button, theme.chart.card);
+  for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+    palette.setColor(role, theme.chart.ink);
+    palette.setColor(QPalette::Disabled, role, theme.chart.muted);
+  }
+  palette.setColor(QPalette::PlaceholderText, theme.chart.muted);
+  palette.setColor(QPalette::Highlight, theme.selection);
+  palette.setColor(QPalette::HighlightedText, theme.chart.ink);
+  palette.setColor(QPalette::Link, theme.chart.maroon);
+  palette.setColor(QPalette::ToolTipBase, theme.chart.card);
+  palette.setColor(QPalette::ToolTipText, theme.chart.ink);
+  application.setPalette(palette);
+  // The language's own sizes come with its pages; this is the face of everything around them.
+  QFont face;
+  face.setFamilies({QStringLiteral("Arial"), QStringLiteral("Liberation Sans")});
+  face.setPointSizeF(10);
+  QApplication::setFont(face);
+  application.setStyleSheet(theme.StyleSheet());
+}
+
+// Roles of widgets are told by the dynamic property "role": card, title, head, caption, value, bad, good, primary.
+QString Theme::StyleSheet() const {
+  QString sheet = QStringLiteral(R"(
+    QWidget { color: @ink; }
+    QMainWindow, QDialog { background: @paper; }
+    QFrame[role="card"] { background: @card; border: 1px solid @line; border-radius: 10px; }
+    QFrame[role="rule"] { background: @line; border: none; max-height: 1px; min-height: 1px; }
+    QFrame[role="header"] { background: @card; border: none; border-bottom: 1px solid @line; }
+    QFrame[role="headercard"] { background: @paper; border: 1px solid @line; border-radius: 10px; }
+    QFrame[role="headercard"]:hover { background: @selection; }
+    QFrame[role="navrow"] { background: transparent; border: none; border-left: 4px solid transparent; border-top-right-radius: 8px; border-bottom-right-radius: 8px; }
+    QFrame[role="navrow"][chosen="true"] { background: @selection; border-left: 4px solid @saffron; }
+    QLabel[role="brand"] { color: @maroon; font-size: 20pt; font-weight: bold; }
+    QPushButton[role="headlink"] { background: transparent; border: none; color: @maroon; padding: 0; text-align: left; min-height: 20px; }
+    QPushButton[role="headlink"]:hover { color: @saffron; }
+    QPushButton[role="headlink"]:focus { border: none; color: @saffron; text-decoration: underline; }
+    QLabel[role="title"], QLabel[role="head"] { color: @maroon; }
+    QLabel[role="caption"] { color: @muted; }
+    QLabel[role="bad"] { color: @bad; }
+    QLabel[role="good"] { color: @good; }
+    QLabel[role="warn"] { color: @saffron; }
+    QPushButton { background: @card; border: 1px solid @line; border-radius: 8px; padding: 7px 16px; min-height: 18px; }
+    QPushButton:hover { background: @selection; }
+    QPushButton:focus { border: 2px solid @saffron; padding: 6px 15px; }
+    QPushButton:pressed { background: @line; }
+    QPushButton:disabled { color: @muted; background: @paper; }
+    QPushButton[role="primary"] { background: @maroon; color: @onmaroon; border-color: @maroon; }
+    QPushButton[role="primary"]:hover { background: @saffron; border-color: @saffron; }
+    QPushButton[role="primary"]:disabled { background: @line; border-color: @line; color: @muted; }
+    QPushButton[role="link"] { background: transparent; border: none; color: @maroon; padding: 2px; text-decoration: underline; }
+    QLineEdit, QComboBox, QSpinBox, QDateEdit, QPlainTextEdit, QTextEdit { background: @card; border: 1px solid @line; border-radius: 6px;
+      padding: 5px 8px; selection-background-color: @selection; selection-color: @ink; }
+    QLineEdit:focus, QComboBox:focus, QSpinBox:focus, QDateEdit:focus, QPlainTextEdit:focus { border: 2px solid @saffron; padding: 4px 7px; }
+    QComboBox::drop-down { border: none; width: 22px; }
+    QComboBox QAbstractItemView, QListView, QTreeView, QTableView { background: @card; border: 1px solid @line; outline: none;
+      selection-background-color: @selection; selection-color: @ink; }
+    QListView::item, QTreeView::item { padding: 6px 8px; border-radius: 6px; }
+    QListView::item:hover, QTreeView::item:hover { background: @tint; }
+    QListView::item:selected, QTreeView::item:selected { background: @selection; color: @ink; }
+    QHeaderView::section { background: @card; color: @muted; border: none; border-bottom: 2px solid @gold; padding: 6px 8px; }
+    QScrollArea, QScrollArea > QWidget > QWidget { background: transparent; border: none; }
+    QScrollBar:vertical { background: transparent; width: 10px; margin: 0; }
+    QScrollBar::handle:vertical { background: @line; border-radius: 5px; min-height: 30px; }
+    QScrollBar::add-line, QScrollBar::sub-line { height: 0; width: 0; }
+    QScrollBar:horizontal { background: transparent; height: 10px; margin: 0; }
+    QScrollBar::handle:horizontal { background: @line; border-radius: 5px; min-width: 30px; }
+    QProgressBar { background: @tint; border: 1px solid @line; border-radius: 6px; text-align: center; min-height: 12px; }
+    QProgressBar::chunk { background: @saffron; border-radius: 5px; }
+    QRadioButton, QCheckBox { spacing: 8px; padding: 3px; }
+    QRadioButton:focus, QCheckBox:focus { border: 1px solid @saffron; border-radius: 6px; padding: 2px; }
+    QRadioButton::indicator, QCheckBox::indicator { width: 14px; height: 14px; border: 1px solid @muted; background: @card; }
+    QRadioButton::indicator { border-radius: 8px; }
+    QCheckBox::indicator { border-radius: 4px; }
+    QRadioButton::indicator:checked { border-color: @saffron;
+      background: qradialgradient(cx:0.5, cy:0.5, radius:0.5, fx:0.5, fy:0.5, stop:0 @saffron, stop:0.5 @saffron, stop:0.6 @card, stop:1 @card); }
+    QCheckBox::indicator:checked { border-color: @saffron;
+      background: qradialgradient(cx:0.5, cy:0.5, radius:0.7, fx:0.5, fy:0.5, stop:0 @saffron, stop:0.65 @saffron, stop:0.75 @card, stop:1 @card); }
+    QToolTip { background: @card; color: @ink; border: 1px solid @line; padding: 4px; }
+    QTabBar::tab { padding: 8px 16px; border-bottom: 2px solid transparent; color: @muted; }
+    QTabBar::tab:selected { color: @maroon; border-bottom: 2px solid @saffron; }
+    QTabWidget::pane { border: 1px solid @line; border-radius: 10px; background: @card; }
+  )");
+  const std::pair<const char *, QColor> roles[] = {{"@paper", chart.paper},
+                                                   {"@card", chart.card},
+                                                   {"@line", chart.line},
+                                                   {"@ink", chart.ink},
+                                                   {"@muted", chart.muted},
+                                                   {"@onmaroon", dark ? chart.paper : chart.card},
+                                                   {"@maroon", chart.maroon},
+                                                   {"@saffron", chart.saffron},
+                                                   {"@gold", chart.gold},
+                                                   {"@goodBack", goodBack},
+                                                   {"@good", good},
+                                                   {"@badBack", badBack},
+                                                   {"@bad", bad},
+                                                   {"@selection", selection},
+                                                   {"@tint", tint}};
+  for (const auto &[role, colour] : roles) sheet.replace(QLatin1String(role), colour.name());
+  return sheet;
+}

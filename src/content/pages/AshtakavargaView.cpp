@@ -1,0 +1,141 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#include "content/pages/AshtakavargaView.h"
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QSignalBlocker>
+#include <algorithm>
+
+#include "analysis/SelvaniDailyMod.h"
+#include "chart/Kundali.h"
+#include "content/SetFonts.h"
+#include "content/Theme.h"
+#include "content/pages/BirthOrDay.h"
+#include "content/pages/Card.h"
+#include "content/pages/CardHead.h"
+#include "content/pages/CellGrid.h"
+#include "content/pages/PageScroll.h"
+#include "content/pages/SideBySide.h"
+#include "platform/UserSettings.h"
+
+namespace {
+
+constexpr int Signs = 12, SumColumn = Signs;
+constexpr int MostOfBody = 8;     // points of one body in one sign: one of each contributor
+constexpr int ChartHeight = 400;  // about as wide as high
+constexpr double WarmestShare = 0.5;
+
+// From the card's colour to half gold, on which the ink stays readable in both schemes. share: 0 to 1.
+QColor Heat(double share) {
+  const ChartPalette &palette = Theme::Current().chart;
+  const double gold = WarmestShare * std::clamp(share, 0.0, 1.0);
+  const auto mix = [gold](int from, int to) { return qRound(from + (to - from) * gold); };
+  return {mix(palette.card.red(), palette.gold.red()), mix(palette.card.green(), palette.gold.green()),
+          mix(palette.card.blue(), palette.gold.blue())};
+}
+
+}  // namespace
+
+AshtakavargaView::AshtakavargaView(QWidget *parent)
+    : PageView(parent),
+      which(new BirthOrDay),
+      cmbAshtak(new QComboBox),
+      table(new CellGrid(QStringLiteral("lblAshtak"), AshtakavargaPage::Rows, Signs + 1)),
+      lblMost(MakeCardLine(QStringLiteral("lblAshtakMost"), "value")),
+      lblFewest(MakeCardLine(QStringLiteral("lblAshtakFewest"), "value")),
+      chartHead(MakeCardHead(QStringLiteral("lblAshtakHead"))),
+      chart(new Kundali) {
+  setObjectName(QStringLiteral("framAshtak"));
+  setAccessibleName(tr("Ashtakavarga"));
+  cmbAshtak->setObjectName(QStringLiteral("cmbAshtak"));
+  cmbAshtak->setAccessibleName(tr("Points shown in the chart"));
+  chart->setObjectName(QStringLiteral("kunAshtak"));
+  chart->setMinimumSize(280, 280);
+  chart->setMaximumHeight(ChartHeight);
+
+  auto *content = new QWidget;
+  auto *column = new QVBoxLayout(content);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(Grid::Gap * 2);
+  auto *choices = new QHBoxLayout;
+  choices->setSpacing(Grid::Gap * 2);
+  choices->addWidget(which);
+  choices->addWidget(cmbAshtak);
+  choices->addStretch();
+  column->addLayout(choices);
+  auto *figures = new Card;
+  figures->Body()->addWidget(table, 1);
+  figures->Body()->addWidget(lblMost);
+  figures->Body()->addWidget(lblFewest);
+  figures->Body()->addStretch(0);
+  auto *drawing = new Card;
+  drawing->Body()->addWidget(chartHead);
+  drawing->Body()->addWidget(chart, 1);
+  drawing->Body()->addStretch(0);
+  auto *halves = new SideBySide(figures, drawing);
+  halves->SetStretch(5, 4);
+  column->addWidget(halves, 1);
+  PageScroll::Fill(this, content);
+  connect(which, &BirthOrDay::Changed, this, &AshtakavargaView::ShowChosen);
+  connect(cmbAshtak, &QComboBox::currentIndexChanged, this, &AshtakavargaView::ShowChosen);
+}
+
+void AshtakavargaView::Fill(SelvaniDailyMod &session) {
+  settings = &session.Settings();
+  pages = {FillAshtakavarga(session.BirthChart()), FillAshtakavarga(session.TodayChart())};
+  const int before = cmbAshtak->currentIndex();
+  const QSignalBlocker quiet(cmbAshtak);
+  cmbAshtak->clear();
+  for (const AshtakavargaPage::Row &row : pages[BirthOrDay::Birth].rows) cmbAshtak->addItem(row.name);
+  cmbAshtak->setCurrentIndex(before < 0 ? AshtakavargaPage::Total : before);
+  ShowChosen();
+}
+
+void AshtakavargaView::ShowChosen() {
+  if (!settings || cmbAshtak->currentIndex() < 0) return;
+  const AshtakavargaPage &page = pages[which->Chosen()];
+  const int chosen = cmbAshtak->currentIndex();
+  for (int sign = 1; sign <= Signs; ++sign) {
+    table->ColumnHead(sign - 1).setText(page.narrowSign[static_cast<size_t>(sign)]);
+    table->ColumnHead(sign - 1).setToolTip(page.signName[static_cast<size_t>(sign)]);
+  }
+  table->ColumnHead(SumColumn).setText(page.lblSumHead);
+  for (int i = 0; i < AshtakavargaPage::Rows; ++i) {
+    const AshtakavargaPage::Row &row = page.rows[static_cast<size_t>(i)];
+    const auto [fewest, most] = std::minmax_element(row.points.begin() + 1, row.points.end());
+    table->RowHead(i).setText(row.name);
+    for (int sign = 1; sign <= Signs; ++sign) {
+      const int points = row.points[static_cast<size_t>(sign)];
+      QLabel &cell = table->Cell(i, sign - 1);
+      cell.setText(QString::number(points));
+      cell.setToolTip(QStringLiteral("%1, %2: %3").arg(row.name, page.signName[static_cast<size_t>(sign)]).arg(points));
+      // The total has no fixed scale: its own least and most are the ends.
+      const double share =
+          i == AshtakavargaPage::Total ? double(points - *fewest) / std::max(1, *most - *fewest) : double(points) / MostOfBody;
+      table->SetGround(i, sign - 1, Heat(share));
+    }
+    table->Cell(i, SumColumn).setText(QString::number(row.sum));
+  }
+  table->SetRunningRow(chosen);
+  lblMost->setText(page.lblMost);
+  lblFewest->setText(page.lblFewest);
+
+  const AshtakavargaPage::Row &row = page.rows[static_cast<size_t>(chosen)];
+  chartHead->setText(row.name);
+  chart->setAccessibleName(row.name);
+  chart->Clear();
+  chart->SetChartStyle(settings->IntValue(SettingKeys::KundStyle));
+  chart->SetHouseNumber(page.ascendantSign);
+  chart->SetAscendantName(page.ascendantName);
+  chart->PlanetPlace(page.ascendantSign, page.ascendantName);
+  for (int sign = 1; sign <= Signs; ++sign) chart->PlanetPlace(sign, QString::number(row.points[static_cast<size_t>(sign)]));
+}
+
+void AshtakavargaView::ApplyFonts(const SetFonts &fonts) {
+  which->ApplyFonts(fonts);
+  table->ApplyFonts(fonts);
+  fonts.SetSmallFont(*cmbAshtak);
+  for (QLabel *label : {lblMost, lblFewest, chartHead}) fonts.SetSmallFont(*label);
+  fonts.SetKundaliFont(*chart);
+}

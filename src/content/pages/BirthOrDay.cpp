@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#include "content/pages/BirthOrDay.h"
+
+#include <QHBoxLayout>
+#include <QRadioButton>
+
+#include "content/SetFonts.h"
+#include "content/Theme.h"
+
+BirthOrDay::BirthOrDay(QWidget *parent) : QWidget(parent), options{new QRadioButton(tr("&Birth")), new QRadioButton(tr("This &day"))} {
+  auto *row = new QHBoxLayout(this);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->setSpacing(Grid::Gap);
+  options[Birth]->setObjectName(QStringLiteral("optBirth"));
+  options[Birth]->setAccessibleName(tr("Chart of the birth"));
+  options[Day]->setObjectName(QStringLiteral("optDay"));
+  options[Day]->setAccessibleName(tr("Chart of this day"));
+  for (QRadioButton *option : options) row->addWidget(option);
+  options[Birth]->setChecked(true);
+  connect(options[Day], &QRadioButton::toggled, this, &BirthOrDay::Changed);
+}
+
+size_t BirthOrDay::Chosen() const { return options[Day]->isChecked() ? Day : Birth; }
+
+void BirthOrDay::ApplyFonts(const SetFonts &fonts) {
+  for (QRadioButton *option : options) fonts.SetSmallFont(*option);
+}

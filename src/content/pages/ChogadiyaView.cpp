@@ -1,0 +1,83 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#include "content/pages/ChogadiyaView.h"
+
+#include <QLabel>
+
+#include "analysis/ChogadiyaPage.h"
+#include "analysis/SelvaniDailyMod.h"
+#include "content/pages/PeriodClock.h"
+
+namespace {
+
+enum Column { Name, Verdict, Time, Mark };
+
+struct Judgement {
+  CaptionTable::Tone tone;
+  const char *word;
+};
+
+// By the type: Udveg, Chara, Laabh, Amrit, Kaal, Shubh, Rog.
+constexpr Judgement Judgements[7] = {
+    {CaptionTable::Tone::Bad, QT_TRANSLATE_NOOP("ChogadiyaView", "bad")},
+    {CaptionTable::Tone::Fair, QT_TRANSLATE_NOOP("ChogadiyaView", "fair")},
+    {CaptionTable::Tone::Good, QT_TRANSLATE_NOOP("ChogadiyaView", "good")},
+    {CaptionTable::Tone::Good, QT_TRANSLATE_NOOP("ChogadiyaView", "good")},
+    {CaptionTable::Tone::Bad, QT_TRANSLATE_NOOP("ChogadiyaView", "bad")},
+    {CaptionTable::Tone::Good, QT_TRANSLATE_NOOP("ChogadiyaView", "good")},
+    {CaptionTable::Tone::Bad, QT_TRANSLATE_NOOP("ChogadiyaView", "bad")},
+};
+
+}  // namespace
+
+ChogadiyaView::ChogadiyaView(QWidget *parent)
+    : DayNightView({QStringLiteral("framChog"),
+                    {QStringLiteral("lblDayChogHead"), QStringLiteral("lblNightChogHead")},
+                    {QStringLiteral("lblTimeHead1"), QStringLiteral("lblTimeHead2")},
+                    QStringLiteral("lblChogDesc")},
+                   {{.element = QStringLiteral("lblChogName"), .strong = true},
+                    {.element = QStringLiteral("lblChogVerdict"), .pill = true},
+                    {.element = QStringLiteral("lblChogTime"), .oneLine = true},
+                    {.element = QStringLiteral("lblChogMark"), .strong = true, .alignment = Qt::AlignRight}},
+                   Time, 8, parent) {
+  setAccessibleName(tr("Chogadiya of the day and the night"));
+}
+
+void ChogadiyaView::Fill(SelvaniDailyMod &session) {
+  const ChogadiyaPage page = FillChogadiyaPage(session.TodayChart());
+  Title(0).setText(page.lblDayChogHead);
+  Title(1).setText(page.lblNightChogHead);
+  TimeHead(0).setText(page.lblTimeHead1);
+  TimeHead(1).setText(page.lblTimeHead2);
+  SetNote(page.lblChogDesc);
+  const QDateTime &moment = session.AnalysisMoment();
+  const bool before = PeriodClock::IsBeforeSunrise(page.rows[0].startClock, moment.time());
+  int running = -1;
+  SpanStrip::Span day;
+  // The axis runs on past midnight, as the night does.
+  double place = day.from = PeriodClock::MinutesOfDay(page.rows[0].startClock);
+  for (int row = 0; row < static_cast<int>(page.rows.size()); ++row) {
+    const auto i = static_cast<size_t>(row);
+    const ChogadiyaPage::Row &period = page.rows[i];
+    const Judgement &judgement = Judgements[static_cast<size_t>(period.type - 1)];
+    CaptionTable &table = TableOf(row);
+    table.Cell(RowOf(row), Name).setText(page.lblChogName[i]);
+    table.Cell(RowOf(row), Verdict).setText(tr(judgement.word));
+    table.SetTone(RowOf(row), Verdict, judgement.tone);
+    table.Cell(RowOf(row), Time).setText(page.lblChogTime[i]);
+    const int length = PeriodClock::Minutes(period.startClock, period.startClock + period.span);
+    day.parts.push_back({place, place + length, page.lblChogName[i],
+                         judgement.tone == CaptionTable::Tone::Good  ? SpanStrip::Tone::Good
+                         : judgement.tone == CaptionTable::Tone::Bad ? SpanStrip::Tone::Bad
+                                                                     : SpanStrip::Tone::Plain});
+    place += length;
+    if (!before && running < 0 && PeriodClock::Holds(period.startClock, period.startClock + period.span, moment.time())) running = row;
+  }
+  day.to = place;
+  day.ticks = SpanStrip::HourTicks(int(day.from), int(day.to));
+  day.moment = before ? -1 : moment.time().hour() * 60 + moment.time().minute();
+  day.momentWord = PeriodClock::Word(moment);
+  SetStrip(std::move(day), tr("The day and the night from sunrise to sunrise"));
+  MarkRunning(running, Mark, PeriodClock::Word(moment));
+  SetBeforeSunrise(before);
+}

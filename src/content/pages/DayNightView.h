@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#pragma once
+
+#include <array>
+#include <vector>
+
+#include "content/pages/CaptionTable.h"
+#include "content/pages/PageView.h"
+#include "content/pages/SpanStrip.h"
+
+// A page of equal periods: those of the day in one card, those of the night in another, the running one marked.
+class DayNightView : public PageView {
+  Q_OBJECT
+
+ public:
+  void ApplyFonts(const SetFonts &fonts) override;
+
+ protected:
+  // titles, heads: object names of the two cards' titles and of their time columns' heads.
+  struct Names {
+    QString page;
+    std::array<QString, 2> titles;
+    std::array<QString, 2> timeHeads;
+    QString note;
+  };
+
+  DayNightView(const Names &names, std::vector<CaptionTable::Column> columns, int timeColumn, int rowsOfHalf, QWidget *parent);
+
+  // By the row of the whole day: those of the night follow those of the day.
+  CaptionTable &TableOf(int row) const { return *tables[row < halfRows ? 0 : 1]; }
+  int RowOf(int row) const { return row % halfRows; }
+  QLabel &Title(int half) const { return *titles[static_cast<size_t>(half)]; }
+  QLabel &TimeHead(int half) const { return tables[static_cast<size_t>(half)]->Head(timeCol); }
+  void SetNote(const QString &words);
+
+  // row: of the whole day, -1 for none. word: "now", or the moment's time; it stands in the mark column.
+  void MarkRunning(int row, int markColumn, const QString &word);
+  // The day and the night as a bar under the two cards; a page that does not call it has none.
+  void SetStrip(SpanStrip::Span span, const QString &name);
+  // Says that the periods of the day before still run.
+  void SetBeforeSunrise(bool before);
+
+ private:
+  int halfRows;
+  int timeCol;
+  QString noteWords;
+  std::array<QLabel *, 2> titles{};
+  std::array<CaptionTable *, 2> tables{};
+  SpanStrip *strip;
+  QWidget *stripCard;
+  QLabel *note;
+  QLabel *beforeSunrise;
+};

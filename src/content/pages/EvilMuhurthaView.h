@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#pragma once
+
+#include <array>
+
+#include "content/pages/PageView.h"
+
+class CaptionTable;
+class SpanStrip;
+class QLabel;
+
+// The four periods to keep clear of, as a table and on a strip of the day.
+class EvilMuhurthaView : public PageView {
+  Q_OBJECT
+
+ public:
+  explicit EvilMuhurthaView(QWidget *parent = nullptr);
+
+  void Fill(SelvaniDailyMod &session) override;
+  void ApplyFonts(const SetFonts &fonts) override;
+
+ private:
+  CaptionTable *table;
+  QLabel *description;
+  QLabel *stripTitle;
+  SpanStrip *strip;
+};

@@ -1,0 +1,143 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#include "content/pages/OverviewView.h"
+
+#include <QFrame>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+
+#include "analysis/SelvaniDailyMod.h"
+#include "chart/Kundali.h"
+#include "content/SetFonts.h"
+#include "content/Theme.h"
+#include "content/pages/ChartFill.h"
+
+namespace {
+
+constexpr int BirthChartPage = 6, TransitChartPage = 8, PanchangPageNumber = 13;
+
+QFrame *Card(QWidget *parent) {
+  auto *card = new QFrame(parent);
+  card->setProperty("role", "card");
+  return card;
+}
+
+}  // namespace
+
+OverviewView::OverviewView(QWidget *parent) : PageView(parent) {
+  setObjectName("framMainPage");
+  auto *columns = new QHBoxLayout(this);
+  columns->setContentsMargins(0, 0, 0, 0);
+  columns->setSpacing(2 * Grid::Gap);
+
+  auto *charts = Card(this);
+  auto *chartColumn = new QVBoxLayout(charts);
+  chartColumn->setContentsMargins(Grid::CardPadding, 12, Grid::CardPadding, 12);
+  const auto addChart = [&](const char *chartName, const char *headName, QLabel *&info, int page) {
+    auto *line = new QHBoxLayout;
+    info = new QLabel(charts);
+    info->setProperty("role", "caption");
+    line->addWidget(Label(headName, "head"));
+    line->addStretch();
+    line->addWidget(info);
+    chartColumn->addLayout(line);
+    auto *chart = new Kundali(charts);
+    chart->setObjectName(chartName);
+    chart->setCursor(Qt::PointingHandCursor);
+    connect(chart, &Kundali::Click, this, [this, page] { emit GoToPage(page); });
+    chartColumn->addWidget(chart, 1);
+    return chart;
+  };
+  kunBirth = addChart("kunBirth", "lblBKundali", chartInfo, BirthChartPage);
+  chartColumn->addSpacing(Grid::Gap);
+  kunTransit = addChart("kunTransit", "lblTransKundali", momentInfo, TransitChartPage);
+  columns->addWidget(charts, 27);
+
+  lblTodPanchang = new QPushButton(this);
+  lblTodPanchang->setObjectName("lblTodPanchang");
+  lblTodPanchang->setProperty("role", "headlink");
+  lblTodPanchang->setCursor(Qt::PointingHandCursor);
+  lblTodPanchang->setFlat(true);
+  connect(lblTodPanchang, &QPushButton::clicked, this, [this] { emit GoToPage(PanchangPageNumber); });
+
+  auto *facts = new QVBoxLayout;
+  facts->setSpacing(2 * Grid::Gap);
+  facts->addWidget(FactsCard(lblTodPanchang, {{"lblDayHead", "lblDayVal", "value"},
+                                              {"lblTithiHead", "lblTithiVal", "value"},
+                                              {"lblNakHead", "lblNakVal", "value"},
+                                              {"lblYogaHead", "lblYogaVal", "value"},
+                                              {"lblKaranHead", "lblKaranVal", "value"}}),
+                   1);
+  facts->addWidget(FactsCard(Label("lblOthFactors", "head"), {{"lblSunRiseHead", "lblSunriseVal", "value"},
+                                                              {"lblSunSetHead", "lblSunsetVal", "value"},
+                                                              {"lblRahuKaalHead", "lblRahuKaalVal", "bad"},
+                                                              {"lblYamGhantaHead", "lblYamghantaVal", "bad"},
+                                                              {"lblCurDashaHead", "lblCurDashaVal", "value"}}),
+                   1);
+  columns->addLayout(facts, 26);
+}
+
+QLabel *OverviewView::Label(const char *name, const char *role) {
+  auto *label = new QLabel(this);
+  label->setObjectName(name);
+  label->setProperty("role", role);
+  label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  labels.insert(QLatin1String(name), label);
+  return label;
+}
+
+QWidget *OverviewView::FactsCard(QWidget *head, const QList<RowNames> &rows) {
+  auto *card = Card(this);
+  auto *grid = new QGridLayout(card);
+  grid->setContentsMargins(Grid::CardPadding, 12, Grid::CardPadding, 8);
+  grid->setHorizontalSpacing(2 * Grid::Gap);
+  grid->setVerticalSpacing(0);
+  grid->addWidget(head, 0, 0, 1, 2, Qt::AlignLeft | Qt::AlignVCenter);
+  grid->setRowMinimumHeight(0, 30);
+  int line = 1;
+  for (const RowNames &row : rows) {
+    if (line > 1) {
+      auto *rule = new QFrame(card);
+      rule->setProperty("role", "rule");
+      grid->addWidget(rule, line++, 0, 1, 2);
+    }
+    grid->addWidget(Label(row.head, "caption"), line, 0);
+    QLabel *value = Label(row.value, row.role);
+    value->setWordWrap(true);
+    grid->addWidget(value, line, 1);
+    grid->setRowStretch(line++, 1);
+  }
+  grid->setColumnStretch(1, 1);
+  return card;
+}
+
+void OverviewView::Fill(SelvaniDailyMod &session) {
+  const OverviewPage page = session.FillMainPage();
+  FillChart(*kunBirth, page.kunBirth, session.Settings());
+  FillChart(*kunTransit, page.kunTransit, session.Settings());
+  for (const auto &[element, caption] : page.Captions()) {
+    if (QLabel *label = labels.value(element)) label->setText(caption);
+  }
+  lblTodPanchang->setText(page.lblTodPanchang);
+  const clsPlanets &birth = session.BirthChart();
+  chartInfo->setText(QStringLiteral("%1 %2").arg(birth.AyanamshName(), clsPlanets::DecToDeg(birth.PlanetLongi(13)).section(':', 0, 1)));
+  momentInfo->setText(session.TodayChart().clsPerson().GetBirthDate().toString(QStringLiteral("d MMM yyyy, H:mm")));
+  kunBirth->setAccessibleName(page.lblBKundali);
+  kunTransit->setAccessibleName(page.lblTransKundali);
+}
+
+void OverviewView::ApplyFonts(const SetFonts &fonts) {
+  for (const char *head : {"lblBKundali", "lblTransKundali", "lblOthFactors"}) fonts.SetSubHeadFont(*labels.value(QLatin1String(head)));
+  fonts.SetSubHeadFont(*lblTodPanchang);
+  for (auto it = labels.cbegin(); it != labels.cend(); ++it) {
+    if (it.value()->property("role") == "head") continue;
+    // On a small screen the facts keep to their lines in the small size.
+    QFont font = width() < 620 ? fonts.SmallFont() : fonts.NormalFont();
+    font.setBold(it.value()->property("role") != "caption");
+    it.value()->setFont(font);
+  }
+  for (QLabel *info : {chartInfo, momentInfo}) fonts.SetSmallFont(*info);
+  fonts.SetKundaliFont(*kunBirth);
+  fonts.SetKundaliFont(*kunTransit);
+}

@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#pragma once
+
+#include <QHash>
+
+#include "content/pages/PageView.h"
+
+class Kundali;
+class QLabel;
+class QPushButton;
+
+// The overview of the day, page 18: both charts, the limbs of the panchang, sunrise to the running dasha.
+class OverviewView : public PageView {
+  Q_OBJECT
+
+ public:
+  explicit OverviewView(QWidget *parent = nullptr);
+
+  void Fill(SelvaniDailyMod &session) override;
+  void ApplyFonts(const SetFonts &fonts) override;
+
+ private:
+  struct RowNames {
+    const char *head, *value, *role;
+  };
+
+  QLabel *Label(const char *name, const char *role);
+  QWidget *FactsCard(QWidget *head, const QList<RowNames> &rows);
+
+  QHash<QString, QLabel *> labels;
+  QPushButton *lblTodPanchang;
+  QLabel *chartInfo, *momentInfo;
+  Kundali *kunBirth, *kunTransit;
+};

@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#include "content/pages/PeriodClock.h"
+
+#include <QCoreApplication>
+#include <cmath>
+
+#include "engine/clsPlanets.h"
+
+namespace PeriodClock {
+namespace {
+
+constexpr int Day = 24 * 60;
+// A page that was opened this long ago still shows the present.
+constexpr int FreshMinutes = 10;
+
+int MinutesOf(const QTime &time) { return time.hour() * 60 + time.minute(); }
+
+}  // namespace
+
+int MinutesOfDay(double clock) {
+  const double minutes = std::round(clsPlanets::MinToDec(clock) * 60 * 1e6) / 1e6;
+  const int total = static_cast<int>(std::floor(minutes + 0.5));
+  return (total % Day + Day) % Day;
+}
+
+int Minutes(double startClock, double endClock) { return (MinutesOfDay(endClock) - MinutesOfDay(startClock) + Day) % Day; }
+
+bool Holds(double startClock, double endClock, const QTime &time) {
+  return (MinutesOf(time) - MinutesOfDay(startClock) + Day) % Day < Minutes(startClock, endClock);
+}
+
+bool IsBeforeSunrise(double sunriseClock, const QTime &time) { return MinutesOf(time) < MinutesOfDay(sunriseClock); }
+
+QString Word(const QDateTime &moment) {
+  // Moments are kept as a plain calendar, so the machine's clock is read as one too.
+  const QDateTime clock(QDate::currentDate(), QTime::currentTime(), Qt::UTC);
+  if (std::abs(moment.secsTo(clock)) <= FreshMinutes * 60) return QCoreApplication::translate("PeriodClock", "now");
+  return QCoreApplication::translate("PeriodClock", "at %1").arg(moment.time().toString(QStringLiteral("H:mm")));
+}
+
+}  // namespace PeriodClock

@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#pragma once
+
+#include <QString>
+#include <optional>
+
+// A place on the earth with its clock, as the stores of persons and of residences keep it.
+struct PersonPlace {
+  QString City, Country;
+  QString GMTDIFF;  // hours.minutes ahead of Greenwich: "+05.30"
+  int LatDeg = 0, LatMT = 0;
+  QString TextNS = QStringLiteral("N");
+  int LongDeg = 0, LongMT = 0;
+  QString TextEW = QStringLiteral("E");
+
+  bool operator==(const PersonPlace &) const = default;
+};
+
+// One person of the list: the birth, and the residence where one is kept.
+struct PersonRecord {
+  QString Name;
+  int Sex = 1;  // 1 male, 2 female
+  int Day = 0, Month = 0, Year = 0;
+  int Hour = 0, Minutes = 0, seconds = 0;  // on the 24-hour clock
+  int AMPM = 1;                            // 1 before noon, 2 from noon
+  PersonPlace birth;
+  std::optional<PersonPlace> residence;
+  QString TCorrVal;   // decimal hours as "+00.00"; empty where the store holds none
+  int Tcorrinde = 0;  // which correction was offered
+
+  bool operator==(const PersonRecord &) const = default;
+};

@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#pragma once
+
+#include <QStringList>
+#include <memory>
+#include <vector>
+
+#include "persons/PersonRecord.h"
+#include "persons/RowsKept.h"
+#include "platform/Store.h"
+
+// The persons with their residences, which lie in two files. Every change is one transaction over both: after a fault, a full disk or
+// the end of the program in the middle of it, both hold the old person or both hold the new one.
+class PersonStore {
+ public:
+  // personDb: the open store of persons; dailyPath: the file of residences, which is attached for as long as this object lives.
+  // Throws StoreError.
+  PersonStore(std::shared_ptr<Database> personDb, const QString &dailyPath);
+  ~PersonStore();
+  PersonStore(const PersonStore &) = delete;
+  PersonStore &operator=(const PersonStore &) = delete;
+
+  // All names in order; two persons of one name are two entries.
+  QStringList Names() const;
+  // The person at a place of that list, 0-based; nothing outside it. Two persons of one name share the first residence.
+  std::optional<PersonRecord> At(int position) const;
+  std::optional<PersonRecord> Find(const QString &name) const;  // the first of that name
+  bool Has(const QString &name) const;
+  std::vector<PersonRecord> All() const;
+
+  // Whether the name was new. What is kept from the stored person on an edit: sex and time correction.
+  enum class Outcome { Added, Changed };
+  // Writes the first person of the name, or a new one, with the residence. The name is kept without blanks around it.
+  // Throws StoreError; nothing is changed then. Throws UsageError for a name that is empty or blank.
+  Outcome Save(const PersonRecord &record);
+
+  struct Tally {
+    int added = 0, changed = 0;
+  };
+  // Writes whole records, sex and time correction too; all of them or, on a fault, none. The second person of one name among the
+  // records is the second of that name in the store.
+  Tally SaveAll(const std::vector<PersonRecord> &records);
+
+  // A person's rows as they lay in both files, to be put back.
+  struct Removed {
+    QString name;
+    RowsKept persons, residences;
+    bool IsEmpty() const { return persons.IsEmpty() && residences.IsEmpty(); }
+  };
+  // Deletes every person and residence of the name; without one, nothing happens.
+  Removed Delete(const QString &name);
+  void Restore(const Removed &removed);
+
+  // Everything as it lies now, to go back to after a list of persons came in.
+  Removed Snapshot() const;
+  void GoBackTo(const Removed &snapshot);
+
+ private:
+  QString Residences() const { return schema + QStringLiteral(".PERSON"); }
+  PersonRecord Read(const Recordset &row) const;
+  static PersonPlace ReadPlace(const Recordset &row);
+  static void WritePlace(Recordset &row, const PersonPlace &place);
+  enum class Extent { Screen, Whole };
+  Outcome Write(const PersonRecord &record, Extent extent, int occurrence);
+
+  std::shared_ptr<Database> db;
+  QString schema;
+};

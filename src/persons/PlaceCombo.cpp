@@ -1,0 +1,119 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#include "persons/PlaceCombo.h"
+
+#include <QAbstractListModel>
+#include <QCompleter>
+#include <QLineEdit>
+#include <QListView>
+#include <QStandardItemModel>
+
+namespace {
+
+constexpr int MostSuggestions = 12;
+enum Role { CityName = Qt::UserRole, RowNumber };
+
+}  // namespace
+
+// The places of one country, without a copy of each as an item.
+class PlaceCombo::ListModel : public QAbstractListModel {
+ public:
+  using QAbstractListModel::QAbstractListModel;
+
+  void Set(std::vector<PlaceSearch::Listed> fresh) {
+    beginResetModel();
+    listed = std::move(fresh);
+    endResetModel();
+  }
+  int rowCount(const QModelIndex &parent = {}) const override { return parent.isValid() ? 0 : static_cast<int>(listed.size()); }
+  QVariant data(const QModelIndex &index, int role) const override {
+    if (!index.isValid()) return {};
+    const PlaceSearch::Listed &place = listed.at(static_cast<std::size_t>(index.row()));
+    if (role == Qt::DisplayRole || role == Qt::EditRole) return place.city;
+    return role == RowNumber ? QVariant(place.row) : QVariant();
+  }
+
+ private:
+  std::vector<PlaceSearch::Listed> listed;
+};
+
+PlaceCombo::PlaceCombo(QWidget *parent) : QComboBox(parent) {
+  setEditable(true);
+  setInsertPolicy(NoInsert);
+  setDuplicatesEnabled(true);  // or Enter would choose the first of several places of one name
+  setCompleter(nullptr);
+  setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
+  setMinimumContentsLength(12);
+  list = new ListModel(this);
+  setModel(list);
+  if (auto *rows = qobject_cast<QListView *>(view())) rows->setUniformItemSizes(true);  // there are thousands of them
+
+  suggestions = new QStandardItemModel(this);
+  auto *choice = new QCompleter(suggestions, this);
+  choice->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
+  choice->setCompletionRole(CityName);
+  choice->setMaxVisibleItems(MostSuggestions);
+  // Of the line, not of the list: the suggestions are not rows of the list.
+  lineEdit()->setCompleter(choice);
+  connect(lineEdit(), &QLineEdit::textEdited, this, &PlaceCombo::Typed);
+  connect(choice, qOverload<const QModelIndex &>(&QCompleter::activated), this, [this](const QModelIndex &index) {
+    if (!search) return;
+    if (const auto place = search->Load(index.data(RowNumber).toLongLong())) {
+      ShowCity(place->City);
+      emit Matched(*place);
+    }
+  });
+  connect(this, &QComboBox::activated, this, [this](int index) {
+    if (!search || index < 0) return;
+    if (const auto place = search->Load(itemData(index, RowNumber).toLongLong())) emit Matched(*place);
+  });
+}
+
+void PlaceCombo::SetSearch(const PlaceSearch *places) {
+  search = places;
+  const QString text = currentText();
+  list->Set({});
+  suggestions->clear();
+  setEditText(text);
+}
+
+void PlaceCombo::ListCountry(const QString &name) {
+  const QString text = currentText();
+  list->Set(search ? search->CitiesOf(name) : std::vector<PlaceSearch::Listed>());
+  setCurrentIndex(-1);
+  setEditText(text);
+}
+
+void PlaceCombo::ShowCity(const QString &name) {
+  lastTyped = name;
+  setEditText(name);
+  lineEdit()->setCursorPosition(0);
+}
+
+void PlaceCombo::CompleteInline(QLineEdit &edit, const QString &typed, const QString &whole) {
+  if (!whole.startsWith(typed, Qt::CaseInsensitive) || edit.cursorPosition() != typed.size()) return;
+  edit.setText(whole);
+  edit.setCursorPosition(static_cast<int>(whole.size()));
+  edit.cursorBackward(true, static_cast<int>(whole.size() - typed.size()));
+}
+
+void PlaceCombo::Typed(const QString &text) {
+  // Deleting must not bring back what was deleted.
+  const bool isGrowing = text.size() > lastTyped.size() || !lastTyped.startsWith(text, Qt::CaseInsensitive);
+  lastTyped = text;
+  suggestions->clear();
+  if (!search) return;
+  for (const PlaceSearch::Found &found : search->Find(text, country, MostSuggestions)) {
+    auto *item = new QStandardItem(found.Label());
+    item->setData(found.place.City, CityName);
+    item->setData(found.place.row, RowNumber);
+    suggestions->appendRow(item);
+  }
+  const auto first = search->First(text, country);
+  if (!first) {
+    emit Unmatched();
+    return;
+  }
+  if (isGrowing && first->byStart) CompleteInline(*lineEdit(), text, first->place.City);
+  emit Matched(first->place);
+}

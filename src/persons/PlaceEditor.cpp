@@ -1,0 +1,309 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#include "persons/PlaceEditor.h"
+
+#include <QComboBox>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "content/Role.h"
+#include "content/ShellFonts.h"
+#include "content/Theme.h"
+#include "persons/ClockHistory.h"
+#include "persons/PersonFields.h"
+#include "persons/PlaceCombo.h"
+
+namespace {
+
+const QString NoAngle = QStringLiteral("000:00");
+constexpr int NorthPole = 90;
+
+void SelectLetter(QComboBox &box, const QString &letter) {
+  box.setCurrentIndex(letter.compare(box.itemText(1), Qt::CaseInsensitive) == 0 ? 1 : 0);
+}
+
+void Say(QLabel &label, const QString &sentence) {
+  label.setText(sentence);
+  label.setVisible(!sentence.isEmpty());
+}
+
+}  // namespace
+
+PlaceEditor::PlaceEditor(const Names &names, const QString &what, QWidget *parent) : QWidget(parent) {
+  auto *grid = new QGridLayout(this);
+  grid->setContentsMargins(0, 0, 0, 0);
+  grid->setHorizontalSpacing(Grid::Gap);
+  grid->setVerticalSpacing(Grid::Gap);
+  grid->setColumnStretch(1, 1);
+
+  country = new QComboBox;
+  country->setObjectName(QLatin1String(names.country));
+  country->setEditable(true);
+  country->setInsertPolicy(QComboBox::NoInsert);
+  country->setDuplicatesEnabled(true);
+  country->setCompleter(nullptr);
+  country->setMinimumContentsLength(12);
+  country->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  country->setAccessibleName(tr("Country of %1").arg(what));
+  AddRow(tr("Country"), country, nullptr, nullptr);
+
+  city = new PlaceCombo;
+  city->setObjectName(QLatin1String(names.city));
+  city->setAccessibleName(tr("City of %1").arg(what));
+  AddRow(tr("City"), city, nullptr, nullptr);
+
+  difference = new QLineEdit;
+  difference->setObjectName(QLatin1String(names.difference));
+  difference->setAccessibleName(tr("Time difference from GMT, place of %1, as +hours.minutes").arg(what));
+  difference->setToolTip(tr("Hours and minutes ahead of Greenwich, as +05.30; behind it with a minus sign."));
+  differenceFault = MakeFault();
+  takeClock = new QPushButton;
+  takeClock->setObjectName(QStringLiteral("cmdUse_") + QLatin1String(names.difference));
+  takeClock->hide();
+  AddRow(tr("GMT difference"), difference, takeClock, differenceFault);
+  clock = new QLabel;
+  clock->setObjectName(QStringLiteral("lblClock_") + QLatin1String(names.difference));
+  clock->setWordWrap(true);
+  clock->setTextFormat(Qt::PlainText);
+  clock->setFont(ShellFonts().SmallFont());
+  clock->hide();
+  grid->addWidget(clock, grid->rowCount(), 1, 1, 2);
+
+  latitude = MakeAngle(names.latitude, names.northSouth, {QStringLiteral("N"), QStringLiteral("S")}, tr("Latitude"));
+  longitude = MakeAngle(names.longitude, names.eastWest, {QStringLiteral("E"), QStringLiteral("W")}, tr("Longitude"));
+  for (const Angle *angle : {&latitude, &longitude}) {
+    angle->edit->setAccessibleName(
+        tr("%1, place of %2, as degrees:minutes").arg(angle == &latitude ? tr("Latitude") : tr("Longitude"), what));
+    connect(angle->edit, &QLineEdit::textEdited, this, [this, fault = angle->fault] {
+      Say(*fault, QString());
+      ShowClock();
+      emit Changed();
+    });
+    connect(angle->hemisphere, &QComboBox::activated, this, [this] {
+      ShowClock();
+      emit Changed();
+    });
+  }
+
+  connect(country->lineEdit(), &QLineEdit::textEdited, this, &PlaceEditor::TypedCountry);
+  connect(country, &QComboBox::activated, this, [this](int index) {
+    if (!search || index < 0) return;
+    const PlaceSearch::Country &chosen = search->Countries().at(static_cast<std::size_t>(index));
+    ChoseCountry(chosen.Name, chosen.GMTDIF);
+  });
+  connect(city, &PlaceCombo::Matched, this, &PlaceEditor::TakePlace);
+  connect(city, &PlaceCombo::Unmatched, this, &PlaceEditor::TakeNoPlace);
+  connect(difference, &QLineEdit::textEdited, this, [this] {
+    Say(*differenceFault, QString());
+    ShowClock();
+    emit Changed();
+  });
+  connect(takeClock, &QPushButton::clicked, this, [this] {
+    difference->setText(takeClock->property("difference").toString());
+    Say(*differenceFault, QString());
+    ShowClock();
+    emit Changed();
+    difference->setFocus();
+  });
+  Empty(QStringLiteral("+00.00"));
+}
+
+QLabel *PlaceEditor::MakeFault() {
+  auto *fault = new QLabel;
+  fault->setProperty("role", "bad");
+  fault->setWordWrap(true);
+  fault->setFont(ShellFonts().SmallFont());
+  fault->hide();
+  return fault;
+}
+
+void PlaceEditor::AddRow(const QString &label, QWidget *field, QWidget *beside, QLabel *below) {
+  auto *grid = static_cast<QGridLayout *>(layout());
+  const int row = grid->rowCount();
+  auto *caption = new QLabel(label);
+  caption->setProperty("role", "caption");
+  caption->setBuddy(field);
+  caption->setMinimumWidth(caption->fontMetrics().horizontalAdvance(QStringLiteral("GMT difference")) + Grid::Gap);
+  grid->addWidget(caption, row, 0);
+  grid->addWidget(field, row, 1, 1, beside ? 1 : 2);
+  if (beside) grid->addWidget(beside, row, 2);
+  if (below) {
+    below->setObjectName(QStringLiteral("fault_") + field->objectName());
+    grid->addWidget(below, row + 1, 1, 1, 2);
+  }
+}
+
+PlaceEditor::Angle PlaceEditor::MakeAngle(const char *name, const char *hemisphereName, const QStringList &letters, const QString &label) {
+  Angle angle{new QLineEdit, new QComboBox, MakeFault()};
+  angle.edit->setObjectName(QLatin1String(name));
+  angle.edit->setToolTip(tr("Degrees and minutes of arc, as 027:09."));
+  angle.hemisphere->setObjectName(QLatin1String(hemisphereName));
+  angle.hemisphere->addItems(letters);
+  angle.hemisphere->setAccessibleName(tr("%1: %2").arg(label, letters.join(QStringLiteral(" or "))));
+  AddRow(label, angle.edit, angle.hemisphere, angle.fault);
+  return angle;
+}
+
+void PlaceEditor::SetSearch(const PlaceSearch *places) {
+  search = places;
+  city->SetSearch(places);
+  const QString text = country->currentText();
+  country->clear();
+  if (search)
+    for (const PlaceSearch::Country &one : search->Countries()) country->addItem(one.Name);
+  country->setEditText(text);
+}
+
+void PlaceEditor::ListCountry(const QString &name) { city->ListCountry(name); }
+
+void PlaceEditor::TypedCountry(const QString &text) {
+  const bool isGrowing = text.size() > lastCountryTyped.size() || !lastCountryTyped.startsWith(text, Qt::CaseInsensitive);
+  lastCountryTyped = text;
+  const PlaceSearch::Country *match = search ? search->FindCountry(text) : nullptr;
+  if (match) {
+    if (isGrowing) PlaceCombo::CompleteInline(*country->lineEdit(), text, match->Name);
+    ChoseCountry(match->Name, match->GMTDIF);
+  } else {
+    city->SetCountry(text.trimmed());
+    emit Changed();
+  }
+}
+
+void PlaceEditor::ChoseCountry(const QString &name, const QString &countryDifference) {
+  difference->setText(countryDifference);
+  Say(*differenceFault, QString());
+  city->SetCountry(name);
+  city->ListCountry(name);
+  ShowClock();
+  emit Changed();
+}
+
+// The country that comes with a city does not narrow the typing: the user has not chosen it.
+void PlaceEditor::TakePlace(const Place &place) {
+  country->setEditText(place.Country);
+  lastCountryTyped = place.Country;
+  difference->setText(PersonFields::ShownDifference(place.GMTDIFF));
+  latitude.edit->setText(PersonFields::ShownDegrees(place.Lat));
+  longitude.edit->setText(PersonFields::ShownDegrees(place.Longy));
+  SelectLetter(*latitude.hemisphere, place.NOSO);
+  SelectLetter(*longitude.hemisphere, place.EaWe);
+  for (QLabel *fault : {differenceFault, latitude.fault, longitude.fault}) Say(*fault, QString());
+  ShowClock();
+  emit Changed();
+}
+
+void PlaceEditor::TakeNoPlace() {
+  for (const Angle *angle : {&latitude, &longitude}) {
+    angle->edit->setText(NoAngle);
+    angle->hemisphere->setCurrentIndex(0);
+    Say(*angle->fault, QString());
+  }
+  ShowClock();
+  emit Changed();
+}
+
+void PlaceEditor::Show(const PersonPlace &place) {
+  country->setEditText(place.Country);
+  lastCountryTyped = place.Country;
+  city->SetCountry(place.Country);
+  city->ShowCity(place.City);
+  difference->setText(PersonFields::ShownDifference(place.GMTDIFF));
+  latitude.edit->setText(PersonFields::DegreesText(place.LatDeg, place.LatMT));
+  longitude.edit->setText(PersonFields::DegreesText(place.LongDeg, place.LongMT));
+  SelectLetter(*latitude.hemisphere, place.TextNS);
+  SelectLetter(*longitude.hemisphere, place.TextEW);
+  for (QLabel *fault : {differenceFault, latitude.fault, longitude.fault}) Say(*fault, QString());
+  ShowClock();
+}
+
+void PlaceEditor::Empty(const QString &withDifference) {
+  Show(PersonPlace());
+  difference->setText(withDifference);
+}
+
+std::optional<PersonPlace> PlaceEditor::Read() {
+  PersonPlace place;
+  place.Country = country->currentText().trimmed();
+  place.City = city->currentText().trimmed();
+  bool isSound = true;
+  const auto refuse = [&](QLabel *fault, const QString &sentence) {
+    Say(*fault, sentence);
+    isSound = false;
+  };
+  const auto minutes = PersonFields::ReadDifference(difference->text());
+  if (minutes)
+    place.GMTDIFF = PersonFields::DifferenceText(*minutes);
+  else
+    refuse(differenceFault, tr("Please write hours and minutes ahead of Greenwich with two digits of minutes, as +05.30."));
+  const auto north = PersonFields::ReadDegrees(latitude.edit->text());
+  if (!north)
+    refuse(latitude.fault, tr("Please write degrees and minutes, as 027:09."));
+  else if (north->ArcMinutes() > NorthPole * 60)
+    refuse(latitude.fault, tr("No place lies beyond 090:00."));
+  else
+    std::tie(place.LatDeg, place.LatMT) = std::pair(north->degrees, north->minutes);
+  const auto east = PersonFields::ReadDegrees(longitude.edit->text());
+  if (east)
+    std::tie(place.LongDeg, place.LongMT) = std::pair(east->degrees, east->minutes);
+  else
+    refuse(longitude.fault, tr("Please write degrees up to 180 and minutes, as 078:00."));
+  place.TextNS = latitude.hemisphere->currentText();
+  place.TextEW = longitude.hemisphere->currentText();
+  return isSound ? std::optional(place) : std::nullopt;
+}
+
+void PlaceEditor::SetMoment(const QDate &day, const QTime &clockTime) {
+  date = day;
+  time = clockTime;
+  ShowClock();
+}
+
+std::optional<Place> PlaceEditor::KnownPlace() const {
+  const auto north = PersonFields::ReadDegrees(latitude.edit->text()), east = PersonFields::ReadDegrees(longitude.edit->text());
+  if (!search || !north || !east) return std::nullopt;
+  return search->At(city->currentText(), country->currentText(), (latitude.hemisphere->currentIndex() == 1 ? -1 : 1) * north->ArcMinutes(),
+                    (longitude.hemisphere->currentIndex() == 1 ? -1 : 1) * east->ArcMinutes());
+}
+
+void PlaceEditor::ShowClock() {
+  std::optional<ClockHistory::Advice> advice;
+  if (date.isValid() && time.isValid()) {
+    if (const std::optional<Place> place = KnownPlace())
+      advice = ClockHistory::Advise(place->City, place->Zone, date, time, difference->text());
+  }
+  takeClock->setVisible(advice && advice->differs);
+  Say(*clock, advice ? advice->sentence : QString());
+  if (!advice) return;
+  SetRole(*clock, advice->differs ? "warn" : "caption");
+  takeClock->setText(tr("Use %1").arg(advice->offered));
+  takeClock->setToolTip(tr("Take over the difference that the clocks showed."));
+  takeClock->setProperty("difference", advice->offered);
+}
+
+QStringList PlaceEditor::Texts() const {
+  return {country->currentText(),
+          city->currentText(),
+          difference->text(),
+          latitude.edit->text(),
+          latitude.hemisphere->currentText(),
+          longitude.edit->text(),
+          longitude.hemisphere->currentText()};
+}
+
+void PlaceEditor::SetTexts(const QStringList &texts) {
+  country->setEditText(texts.value(0));
+  city->SetCountry(texts.value(0));
+  city->ShowCity(texts.value(1));
+  difference->setText(texts.value(2));
+  latitude.edit->setText(texts.value(3));
+  SelectLetter(*latitude.hemisphere, texts.value(4));
+  longitude.edit->setText(texts.value(5));
+  SelectLetter(*longitude.hemisphere, texts.value(6));
+  ShowClock();
+}
+
+QWidget *PlaceEditor::FirstField() const { return country; }
+QWidget *PlaceEditor::LastField() const { return longitude.hemisphere; }

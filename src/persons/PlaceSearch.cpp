@@ -1,0 +1,248 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#include "persons/PlaceSearch.h"
+
+#include <QHash>
+#include <QSet>
+#include <QSqlQuery>
+#include <algorithm>
+#include <cmath>
+#include <tuple>
+
+#include "persons/PersonFields.h"
+
+namespace {
+
+constexpr int NearbyArcMinutes = 120;
+
+const QString NoDifference = QStringLiteral("+00.00");
+
+// Letters that Unicode does not take apart into a letter and an accent.
+QString PlainLetter(QChar letter) {
+  switch (letter.unicode()) {
+    case u'\u00df': return QStringLiteral("ss");
+    case u'\u00e6': return QStringLiteral("ae");
+    case u'\u0153': return QStringLiteral("oe");
+    case u'\u00f8': return QStringLiteral("o");
+    case u'\u0111':
+    case u'\u00f0': return QStringLiteral("d");
+    case u'\u00fe': return QStringLiteral("th");
+    case u'\u0131': return QStringLiteral("i");
+    case u'\u0142': return QStringLiteral("l");
+    case u'-': return QStringLiteral(" ");
+    case u'\'':
+    case u'\u2018':
+    case u'\u2019':
+    case u'\u02bb':
+    case u'\u02bc':
+    case u'`': return QString();
+    default: return letter;
+  }
+}
+
+bool IsPlain(const QString &text) {
+  return std::all_of(text.begin(), text.end(), [](QChar c) { return (c >= u'a' && c <= u'z') || c == u' '; });
+}
+
+Place ReadPlace(const Recordset &row) {
+  const auto text = [&](const char *column) {
+    return row.HasColumn(QLatin1String(column)) ? row.Field(QLatin1String(column)).toString() : QString();
+  };
+  Place place;
+  place.row = row.Field(QStringLiteral("PlaceRow")).toLongLong();
+  place.City = text("City");
+  place.Country = text("Country");
+  place.Lat = text("Lat");
+  place.Longy = text("Longy");
+  place.NOSO = text("NOSO");
+  place.EaWe = text("EaWe");
+  place.GMTDIFF = text("GMTDIFF");
+  place.Region = text("Region");
+  place.Zone = text("Zone");
+  place.Known = text("Known");
+  place.Population = text("Population").toLongLong();
+  return place;
+}
+
+int SignedArcMinutes(const QString &stored, bool negative) {
+  const auto angle = PersonFields::ReadDegrees(PersonFields::ShownDegrees(stored));
+  return angle ? (negative ? -1 : 1) * angle->ArcMinutes() : 0;
+}
+
+}  // namespace
+
+QString PlaceSearch::Fold(const QString &text) {
+  const QString lower = text.simplified().toLower();
+  if (IsPlain(lower)) return lower;
+  QString plain;
+  for (const QChar c : lower.normalized(QString::NormalizationForm_D))
+    if (c.category() != QChar::Mark_NonSpacing) plain += PlainLetter(c);
+  return plain.simplified();
+}
+
+QString PlaceSearch::Found::Label() const {
+  QStringList parts{place.City};
+  if (!place.Region.isEmpty() && Fold(place.Region) != Fold(place.City)) parts << place.Region;
+  parts << place.Country;
+  return parts.join(QStringLiteral(", "));
+}
+
+PlaceSearch::PlaceSearch(std::shared_ptr<Database> personDb) : db(std::move(personDb)) {
+  Recordset listed = db->OpenRecordset(QStringLiteral("SELECT * FROM Country ORDER BY Name"));
+  for (; !listed.AtEnd(); listed.MoveNext()) {
+    const QString difference = listed.Field(QStringLiteral("GMTDIF")).toString();
+    countries.push_back(
+        {listed.Field(QStringLiteral("Name")).toString(), difference.isEmpty() ? NoDifference : PersonFields::ShownDifference(difference)});
+  }
+
+  // A store from before the wider list has neither population nor other names.
+  QSqlQuery columns(db->Handle());
+  columns.exec(QStringLiteral("PRAGMA table_info(City)"));
+  QSet<QString> present;
+  while (columns.next()) present.insert(columns.value(1).toString().toLower());
+  const auto orEmpty = [&](const char *column) {
+    return present.contains(QLatin1String(column).toString().toLower()) ? QLatin1String(column).toString() : QStringLiteral("''");
+  };
+
+  QSqlQuery query(db->Handle());
+  query.setForwardOnly(true);
+  if (!query.exec(QStringLiteral("SELECT rowid, City, Country, %1, %2 FROM City").arg(orEmpty("Population"), orEmpty("Known"))))
+    throw db->Failure(query);
+  QHash<QString, int> indexOfCountry;
+  while (query.next()) {
+    Entry entry;
+    entry.row = query.value(0).toLongLong();
+    entry.city = query.value(1).toString();
+    const QString country = query.value(2).toString();
+    auto known = indexOfCountry.find(country);
+    if (known == indexOfCountry.end()) {
+      known = indexOfCountry.insert(country, static_cast<int>(countryNames.size()));
+      countryNames << country;
+    }
+    entry.country = *known;
+    entry.population = query.value(3).toLongLong();
+
+    const int index = static_cast<int>(entries.size());
+    const QString folded = Fold(entry.city);
+    keys.push_back({folded, index, Key::Kind::Name});
+    for (qsizetype blank = folded.indexOf(u' '); blank > 0; blank = folded.indexOf(u' ', blank + 1))
+      keys.push_back({folded.mid(blank + 1), index, Key::Kind::Inside});
+    const QString others = query.value(4).toString();
+    if (!others.isEmpty())
+      for (const QString &other : others.split(u';', Qt::SkipEmptyParts)) keys.push_back({Fold(other), index, Key::Kind::Known});
+    entries.push_back(std::move(entry));
+  }
+  std::sort(keys.begin(), keys.end(), [](const Key &a, const Key &b) { return a.text < b.text; });
+}
+
+int PlaceSearch::CountryIndex(const QString &name) const {
+  for (int i = 0; i < countryNames.size(); ++i)
+    if (countryNames[i].compare(name, Qt::CaseInsensitive) == 0) return i;
+  return -1;
+}
+
+std::vector<PlaceSearch::Hit> PlaceSearch::Hits(const QString &folded, int country, bool elsewhere, std::size_t limit) const {
+  if (folded.isEmpty()) return {};
+  std::vector<Hit> hits;
+  const auto begin =
+      std::lower_bound(keys.begin(), keys.end(), folded, [](const Key &key, const QString &text) { return key.text < text; });
+  for (auto key = begin; key != keys.end() && key->text.startsWith(folded); ++key) {
+    const bool ofCountry = country < 0 || entries[static_cast<std::size_t>(key->entry)].country == country;
+    if (ofCountry != elsewhere)
+      hits.push_back({key->entry, key->kind, key->text.size() == folded.size() && key->kind != Key::Kind::Inside});
+  }
+  const auto rank = [this](const Hit &hit) {
+    const Entry &entry = entries[static_cast<std::size_t>(hit.entry)];
+    return std::tuple(!hit.exact, hit.kind == Key::Kind::Inside, -entry.population, entry.row, hit.kind);
+  };
+  const auto before = [&](const Hit &a, const Hit &b) { return rank(a) < rank(b); };
+  // A place can be found by several of its names; its best one counts.
+  const std::size_t wanted = std::min(hits.size(), limit * 3);
+  std::partial_sort(hits.begin(), hits.begin() + static_cast<std::ptrdiff_t>(wanted), hits.end(), before);
+  std::vector<Hit> best;
+  QSet<int> taken;
+  for (std::size_t i = 0; i < wanted && best.size() < limit; ++i) {
+    if (taken.contains(hits[i].entry)) continue;
+    taken.insert(hits[i].entry);
+    best.push_back(hits[i]);
+  }
+  return best;
+}
+
+std::optional<Place> PlaceSearch::Load(qlonglong row) const {
+  const Recordset found = db->OpenRecordset(QStringLiteral("SELECT rowid AS PlaceRow, * FROM City WHERE rowid = ?"), {row});
+  if (found.IsEmpty()) return std::nullopt;
+  return ReadPlace(found);
+}
+
+PlaceSearch::Found PlaceSearch::LoadHit(const Hit &hit, bool ofCountry) const {
+  Found found;
+  found.place = Load(entries[static_cast<std::size_t>(hit.entry)].row).value_or(Place());
+  found.byStart = hit.kind == Key::Kind::Name;
+  found.ofCountry = ofCountry;
+  return found;
+}
+
+std::vector<PlaceSearch::Found> PlaceSearch::Find(const QString &typed, const QString &country, int limit) const {
+  const QString folded = Fold(typed);
+  const int index = country.trimmed().isEmpty() ? -1 : CountryIndex(country.trimmed());
+  const bool isNarrowed = !country.trimmed().isEmpty();
+  const auto wanted = static_cast<std::size_t>(std::max(limit, 0));
+  std::vector<Found> found;
+  if (!isNarrowed || index >= 0)
+    for (const Hit &hit : Hits(folded, index, false, wanted)) found.push_back(LoadHit(hit, true));
+  if (isNarrowed && found.size() < wanted)
+    for (const Hit &hit : index >= 0 ? Hits(folded, index, true, wanted - found.size()) : Hits(folded, -1, false, wanted))
+      found.push_back(LoadHit(hit, false));
+  return found;
+}
+
+std::optional<PlaceSearch::Found> PlaceSearch::First(const QString &typed, const QString &country) const {
+  const int index = country.trimmed().isEmpty() ? -1 : CountryIndex(country.trimmed());
+  if (!country.trimmed().isEmpty() && index < 0) return std::nullopt;
+  for (const Hit &hit : Hits(Fold(typed), index, false, 1))
+    if (hit.kind != Key::Kind::Inside) return LoadHit(hit, true);
+  return std::nullopt;
+}
+
+std::optional<Place> PlaceSearch::At(const QString &city, const QString &country, int arcMinutesNorth, int arcMinutesEast) const {
+  const QString folded = Fold(city);
+  const int index = CountryIndex(country.trimmed());
+  std::optional<Place> nearest;
+  double least = NearbyArcMinutes;
+  auto key = std::lower_bound(keys.begin(), keys.end(), folded, [](const Key &k, const QString &text) { return k.text < text; });
+  for (; key != keys.end() && key->text == folded; ++key) {
+    if (key->kind == Key::Kind::Inside || entries[static_cast<std::size_t>(key->entry)].country != index) continue;
+    const Place place = LoadHit({key->entry, key->kind, true}, true).place;
+    const double north = SignedArcMinutes(place.Lat, place.NOSO == QLatin1String("S")) - arcMinutesNorth;
+    const double east = SignedArcMinutes(place.Longy, place.EaWe == QLatin1String("W")) - arcMinutesEast;
+    const double distance = std::hypot(north, east);
+    if (distance > least || (nearest && distance == least)) continue;
+    least = distance;
+    nearest = place;
+  }
+  return nearest;
+}
+
+std::vector<PlaceSearch::Listed> PlaceSearch::CitiesOf(const QString &country) const {
+  const int index = country.isEmpty() ? -1 : CountryIndex(country);
+  std::vector<Listed> listed;
+  if (!country.isEmpty() && index < 0) return listed;
+  for (const Key &key : keys) {
+    const Entry &entry = entries[static_cast<std::size_t>(key.entry)];
+    if (key.kind == Key::Kind::Name && (index < 0 || entry.country == index)) listed.push_back({entry.city, entry.row});
+  }
+  return listed;
+}
+
+const PlaceSearch::Country *PlaceSearch::FindCountry(const QString &typed) const {
+  if (typed.trimmed().isEmpty() || typed.contains(u'[')) return nullptr;
+  const QString folded = Fold(typed);
+  const Country *first = nullptr;
+  for (const Country &country : countries) {
+    const QString name = Fold(country.Name);
+    if (name == folded) return &country;
+    if (!first && name.startsWith(folded)) first = &country;
+  }
+  return first;
+}

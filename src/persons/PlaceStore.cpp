@@ -1,0 +1,108 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#include "persons/PlaceStore.h"
+
+#include <QSqlQuery>
+
+#include "persons/PersonFields.h"
+#include "platform/Errors.h"
+
+namespace {
+
+// Farther than this, a row is of another place, and what is known of the old one no longer holds.
+constexpr int SamePlaceArcMinutes = 120;
+
+int ArcMinutes(const QString &stored, const QString &hemisphere) {
+  const auto angle = PersonFields::ReadDegrees(PersonFields::ShownDegrees(stored));
+  const int size = angle ? angle->ArcMinutes() : 0;
+  return hemisphere == QLatin1String("S") || hemisphere == QLatin1String("W") ? -size : size;
+}
+
+}  // namespace
+
+QStringList PlaceStore::Countries() const {
+  QStringList names;
+  Recordset rows = db->OpenRecordset(QStringLiteral("SELECT Name FROM Country ORDER BY Name"));
+  for (; !rows.AtEnd(); rows.MoveNext()) names << rows.Field(QStringLiteral("Name")).toString();
+  return names;
+}
+
+bool PlaceStore::HasCountry(const QString &name) const {
+  return !name.isEmpty() && !db->OpenRecordset(QStringLiteral("SELECT Name FROM Country WHERE Name = ?"), {name}).IsEmpty();
+}
+
+QString PlaceStore::CountryDifference(const QString &name) const {
+  const Recordset row = db->OpenRecordset(QStringLiteral("SELECT GMTDIF FROM Country WHERE Name = ?"), {name});
+  const QString stored = row.IsEmpty() ? QString() : row.Field(QStringLiteral("GMTDIF")).toString();
+  return stored.isEmpty() ? QStringLiteral("+00.00") : PersonFields::ShownDifference(stored);
+}
+
+qlonglong PlaceStore::SaveCity(const Place &place) {
+  Transaction transaction(*db);
+  Recordset row = db->OpenRecordset(QStringLiteral("SELECT * FROM City WHERE rowid = ?"), {place.row});
+  const bool isNew = row.IsEmpty();
+  if (isNew) {
+    row.AddNew();
+  } else {
+    const auto text = [&](const char *column) { return row.Field(QLatin1String(column)).toString(); };
+    const bool isSamePlace = text("Country").compare(place.Country, Qt::CaseInsensitive) == 0 &&
+                             qAbs(ArcMinutes(text("Lat"), text("NOSO")) - ArcMinutes(place.Lat, place.NOSO)) <= SamePlaceArcMinutes &&
+                             qAbs(ArcMinutes(text("Longy"), text("EaWe")) - ArcMinutes(place.Longy, place.EaWe)) <= SamePlaceArcMinutes;
+    row.Edit();
+    for (const char *column : {"Region", "Zone", "Known", "Population"})
+      if (!isSamePlace && row.HasColumn(QLatin1String(column))) row.SetField(QLatin1String(column), QVariant());
+  }
+  const auto set = [&](const char *column, const QString &value) { row.SetField(QLatin1String(column), value); };
+  set("City", place.City);
+  set("Country", place.Country);
+  set("Lat", place.Lat);
+  set("Longy", place.Longy);
+  set("NOSO", place.NOSO);
+  set("EaWe", place.EaWe);
+  set("GMTDIFF", place.GMTDIFF);
+  row.Update();
+  qlonglong number = place.row;
+  if (isNew) {
+    QSqlQuery last(db->Handle());
+    if (!last.exec(QStringLiteral("SELECT last_insert_rowid()")) || !last.next()) throw db->Failure(last);
+    number = last.value(0).toLongLong();
+  }
+  transaction.Commit();
+  return number;
+}
+
+void PlaceStore::SaveCountry(const QString &name, const QString &gmtDifference, const QString &former) {
+  Transaction transaction(*db);
+  Recordset row = db->OpenRecordset(QStringLiteral("SELECT * FROM Country WHERE Name = ?"), {former.isEmpty() ? name : former});
+  if (row.IsEmpty())
+    row.AddNew();
+  else
+    row.Edit();
+  row.SetField(QStringLiteral("Name"), name);
+  row.SetField(QStringLiteral("GMTDIF"), gmtDifference);
+  row.Update();
+  transaction.Commit();
+}
+
+RowsKept PlaceStore::DeleteCity(qlonglong row, const QString &name) {
+  Transaction transaction(*db);
+  RowsKept kept = row != 0 ? RowsKept::Take(*db, QStringLiteral("City"), QStringLiteral("rowid = ?"), {row})
+                           : RowsKept::Take(*db, QStringLiteral("City"),
+                                            QStringLiteral("rowid = (SELECT rowid FROM City WHERE City = ? LIMIT 1)"), {name});
+  transaction.Commit();
+  return kept;
+}
+
+RowsKept PlaceStore::DeleteCountry(const QString &name) {
+  Transaction transaction(*db);
+  RowsKept kept =
+      RowsKept::Take(*db, QStringLiteral("Country"), QStringLiteral("rowid = (SELECT rowid FROM Country WHERE Name = ? LIMIT 1)"), {name});
+  transaction.Commit();
+  return kept;
+}
+
+void PlaceStore::Restore(const RowsKept &kept) {
+  Transaction transaction(*db);
+  kept.PutBack(*db);
+  transaction.Commit();
+}

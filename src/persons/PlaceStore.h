@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#pragma once
+
+#include <QStringList>
+#include <memory>
+
+#include "persons/Place.h"
+#include "persons/RowsKept.h"
+#include "platform/Store.h"
+
+// Adds, changes and deletes the places and countries of the list, each change in one transaction.
+class PlaceStore {
+ public:
+  explicit PlaceStore(std::shared_ptr<Database> personDb) : db(std::move(personDb)) {}
+
+  QStringList Countries() const;  // by name
+  bool HasCountry(const QString &name) const;
+  QString CountryDifference(const QString &name) const;  // "+00.00" where there is none
+
+  // place.row 0 adds a row, another number changes that row; the row number of the result. Region and zone of a changed row stay as
+  // long as it is about the same point of the same country. Throws StoreError.
+  qlonglong SaveCity(const Place &place);
+  // former: the name of the row to change; empty to add one.
+  void SaveCountry(const QString &name, const QString &gmtDifference, const QString &former);
+
+  // One city: by row number, or with 0 the first of the name. Cities of a deleted country stay.
+  RowsKept DeleteCity(qlonglong row, const QString &name);
+  RowsKept DeleteCountry(const QString &name);
+  void Restore(const RowsKept &kept);
+
+ private:
+  std::shared_ptr<Database> db;
+};

@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#include "reports/PageExport.h"
+
+#include <QDate>
+#include <QPrinter>
+
+#include "platform/ReportError.h"
+#include "platform/gui/QtPdfBox.h"
+#include "platform/gui/QtPrinterService.h"
+#include "reports/PdfDocumentInfo.h"
+#include "reports/ScreenForm.h"
+#include "reports/clsPDFExporter.h"
+#include "reports/clsPrintMaker.h"
+
+void PageExport::SavePdf(QWidget &page, const QString &path, const QString &personName, const QString &makerAddress) {
+  QtPdfBox pdf;
+  clsPDFExporter exporter(pdf, PdfDocumentInfo(makerAddress), {personName, QDate::currentDate()});
+  exporter.SetFilename(path);
+  if (!exporter.StartExport()) throw StoreError(exporter.Fault());
+  exporter.PrintForm(ScreenForm(page));
+  exporter.FinishFile();
+}
+
+bool PageExport::Print(QWidget &page, QPrinter &printer) {
+  const FormPage form = ScreenForm(page);
+  printer.setPageOrientation(form.landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
+  QtPrinterService service(printer);
+  service.SetLandscape(form.landscape);
+  const bool printed = clsPrintMaker(service).PrintForm(form);
+  service.EndDoc();
+  return printed;
+}

@@ -1,0 +1,258 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#include "reports/frmDayPrint.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrintPreviewDialog>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QProgressDialog>
+#include <QPushButton>
+#include <QScreen>
+#include <QStandardPaths>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+#include "platform/ReportError.h"
+#include "platform/gui/QtPrinterService.h"
+#include "reports/DailyReport.h"
+
+namespace {
+
+constexpr int KeyRole = Qt::UserRole;
+constexpr int Gap = 8;
+
+// The wait pointer for as long as it lives.
+class WaitPointer {
+ public:
+  WaitPointer() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
+  ~WaitPointer() { QGuiApplication::restoreOverrideCursor(); }
+  WaitPointer(const WaitPointer &) = delete;
+  WaitPointer &operator=(const WaitPointer &) = delete;
+};
+
+// A bar that shows, and can be stopped, when a slow disk or printer keeps the user waiting.
+class ProgressBox : public ReportProgress {
+ public:
+  explicit ProgressBox(QWidget *parent) : box_(frmDayPrint::tr("Making the report..."), frmDayPrint::tr("Stop"), 0, 1, parent) {
+    box_.setWindowModality(Qt::WindowModal);
+    box_.setMinimumDuration(1500);
+    box_.setWindowTitle(frmDayPrint::tr("Print Daily Horoscope"));
+  }
+  bool Step(int done, int total) override {
+    box_.setMaximum(total);
+    box_.setValue(done);
+    return !box_.wasCanceled();
+  }
+
+ private:
+  QProgressDialog box_;
+};
+
+}  // namespace
+
+frmDayPrint::frmDayPrint(DailyReport &report, QWidget *parent) : QDialog(parent), report_(report), services_(OwnServices()) { Build(); }
+
+frmDayPrint::frmDayPrint(DailyReport &report, Services services, QWidget *parent)
+    : QDialog(parent), report_(report), services_(std::move(services)) {
+  Build();
+}
+
+frmDayPrint::~frmDayPrint() = default;
+
+frmDayPrint::Services frmDayPrint::OwnServices() {
+  Services services;
+  services.hasPrinter = [] { return !QPrinterInfo::availablePrinterNames().isEmpty(); };
+  services.print = [this](const ReportTopics &topics) {
+    if (!Printer().isValid()) throw ReportError(tr("The printer \"%1\" is not there any more.").arg(Printer().printerName()));
+    QtPrinterService service(Printer());
+    ProgressBox progress(this);
+    try {
+      report_.Print(service, topics, &progress);
+    } catch (const ReportCancelled &) {
+      service.Abort();
+    }
+  };
+  services.askFile = [this](const QString &suggested) {
+    QString file = QFileDialog::getSaveFileName(this, tr("Save as PDF"), suggested, tr("PDF documents (*.pdf)"));
+    if (!file.isEmpty() && QFileInfo(file).suffix().isEmpty()) file += QStringLiteral(".pdf");
+    return file;
+  };
+  services.offerPdf = [this](const QString &question) {
+    return QMessageBox::question(this, windowTitle(), question, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes) == QMessageBox::Yes;
+  };
+  services.tell = [this](const QString &sentence, bool bad) {
+    bad ? QMessageBox::warning(this, windowTitle(), sentence) : QMessageBox::information(this, windowTitle(), sentence);
+  };
+  return services;
+}
+
+void frmDayPrint::Build() {
+  setObjectName(QStringLiteral("frmDayPrint"));
+  setWindowTitle(tr("Print Daily Horoscope"));
+  setModal(true);
+
+  tvwPrint = new QTreeWidget;
+  tvwPrint->setObjectName(QStringLiteral("tvwPrint"));
+  tvwPrint->setAccessibleName(tr("Topics of the report"));
+  tvwPrint->setHeaderHidden(true);
+  tvwPrint->setRootIsDecorated(false);
+  tvwPrint->setItemsExpandable(false);
+  const auto add = [](QTreeWidgetItem *item, const char *key, const QString &text) {
+    item->setText(0, text);
+    item->setData(0, KeyRole, QLatin1String(key));
+    item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
+    item->setCheckState(0, Qt::Checked);
+  };
+  auto *root = new QTreeWidgetItem(tvwPrint);
+  add(root, ReportTopics::MainKey, tr(ReportTopics::MainText));
+  for (const ReportTopics::Topic &topic : ReportTopics::List()) add(new QTreeWidgetItem(root), topic.key, tr(topic.text));
+  tvwPrint->expandAll();
+  tvwPrint->setCurrentItem(root);
+  tvwPrint->setUniformRowHeights(true);
+  // All thirteen rows show where the screen has room for them.
+  const int row = fontMetrics().height() + Gap;
+  tvwPrint->setStyleSheet(QStringLiteral("QTreeWidget::item { min-height: %1px; }").arg(row));
+  tvwPrint->setMinimumHeight(row * 6);
+  connect(tvwPrint, &QTreeWidget::itemChanged, this, [this](QTreeWidgetItem *item) { OnItemChanged(item); });
+
+  const auto button = [this](const char *name, const QString &text, void (frmDayPrint::*action)()) {
+    auto *made = new QPushButton(text);
+    made->setObjectName(QLatin1String(name));
+    made->setAutoDefault(false);
+    connect(made, &QPushButton::clicked, this, action);
+    return made;
+  };
+  auto *buttons = new QHBoxLayout;
+  buttons->setSpacing(Gap);
+  buttons->addWidget(button("cmdPrintSet", tr("Printer &Options"), &frmDayPrint::PrinterOptions));
+  buttons->addWidget(button("cmdPreview", tr("P&review..."), &frmDayPrint::Preview));
+  buttons->addStretch();
+  auto *print = button("cmdPrint", tr("&Print"), &frmDayPrint::Print);
+  print->setProperty("role", "primary");
+  print->setDefault(true);
+  buttons->addWidget(button("cmdSavePdf", tr("&Save as PDF..."), &frmDayPrint::SavePdf));
+  buttons->addWidget(print);
+  buttons->addWidget(button("cmdCancel", tr("&Close"), &frmDayPrint::reject));
+
+  auto *layout = new QVBoxLayout(this);
+  layout->setContentsMargins(2 * Gap, 2 * Gap, 2 * Gap, 2 * Gap);
+  layout->setSpacing(2 * Gap);
+  layout->addWidget(tvwPrint);
+  layout->addLayout(buttons);
+  int longest = sizeHint().width();
+  for (const ReportTopics::Topic &topic : ReportTopics::List())
+    longest = std::max(longest, fontMetrics().horizontalAdvance(tr(topic.text)) + 14 * Gap);
+  const QSize wanted(longest, row * 13 + 14 * Gap);
+  resize(wanted.boundedTo(screen()->availableSize() * 0.9));
+}
+
+void frmDayPrint::OnItemChanged(QTreeWidgetItem *item) {
+  // The root carries all topics with it; a topic leaves the root as it was.
+  for (int i = 0; i < item->childCount(); ++i) item->child(i)->setCheckState(0, item->checkState(0));
+}
+
+ReportTopics frmDayPrint::Topics() const {
+  ReportTopics topics;
+  const QTreeWidgetItem *root = tvwPrint->topLevelItem(0);
+  for (int i = 0; i < root->childCount(); ++i)
+    topics.Set(root->child(i)->data(0, KeyRole).toString(), root->child(i)->checkState(0) == Qt::Checked);
+  return topics;
+}
+
+QPrinter &frmDayPrint::Printer() {
+  if (!printer_) {
+    printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    printer_->setDocName(tr("Daily Horoscope"));
+  }
+  return *printer_;
+}
+
+void frmDayPrint::Print() {
+  QString fault;
+  if (!services_.hasPrinter()) {
+    fault = tr("No printer is installed on this computer.");
+  } else {
+    try {
+      const WaitPointer wait;
+      services_.print(Topics());
+    } catch (const ReportError &error) {
+      fault = error.Sentence();
+      printer_.reset();  // the next one begins with a printer that may be back
+    } catch (const Error &error) {
+      services_.tell(error.Sentence(), true);
+      return;
+    }
+  }
+  if (fault.isEmpty()) {
+    accept();
+  } else if (services_.offerPdf(tr("%1 Do you want to save the report as a PDF?").arg(fault))) {
+    SavePdf();
+  }
+}
+
+void frmDayPrint::SavePdf() {
+  const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  const QString file = services_.askFile(QDir(folder).filePath(report_.FileName()));
+  if (file.isEmpty()) return;
+  try {
+    bool saved = false;
+    {
+      const WaitPointer wait;
+      ProgressBox progress(this);
+      saved = report_.SavePdf(file, Topics(), &progress);
+    }
+    if (!saved) return;
+    services_.tell(tr("The report is saved as \"%1\".").arg(QDir::toNativeSeparators(file)), false);
+    accept();
+  } catch (const Error &error) {
+    services_.tell(error.Sentence(), true);
+  }
+}
+
+void frmDayPrint::Preview() {
+  // Without a printer the preview lays the pages out as a PDF would.
+  QPrinter &printer = Printer();
+  QPrintPreviewDialog preview(&printer, this);
+  preview.setWindowTitle(tr("Print Daily Horoscope"));
+  QString fault;
+  connect(&preview, &QPrintPreviewDialog::paintRequested, this, [&](QPrinter *target) {
+    try {
+      QtPrinterService service(*target);
+      report_.Print(service, Topics());
+    } catch (const Error &error) {
+      fault = error.Sentence();
+      QMetaObject::invokeMethod(&preview, &QDialog::reject, Qt::QueuedConnection);
+    }
+  });
+  preview.resize(screen()->availableSize() * 0.8);
+  preview.exec();
+  if (!fault.isEmpty()) services_.tell(fault, true);
+}
+
+void frmDayPrint::PrinterOptions() {
+  if (!services_.hasPrinter()) {
+    if (services_.offerPdf(tr("No printer is installed on this computer. Do you want to save the report as a PDF?"))) SavePdf();
+    return;
+  }
+  // The dialog works on a printer of its own, so that a cancelled one changes nothing.
+  QPrinter chosen(QPrinter::HighResolution);
+  chosen.setPrinterName(Printer().printerName());
+  chosen.setPageLayout(Printer().pageLayout());
+  chosen.setCopyCount(1);
+  QPrintDialog dialog(&chosen, this);
+  dialog.setWindowTitle(tr("Print Daily Horoscope"));
+  dialog.setOption(QAbstractPrintDialog::PrintSelection, false);
+  dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
+  dialog.setOption(QAbstractPrintDialog::PrintCurrentPage, false);
+  if (dialog.exec() != QDialog::Accepted) return;
+  Printer().setPrinterName(chosen.printerName());
+  Printer().setPageSize(chosen.pageLayout().pageSize());
+  Printer().setCopyCount(chosen.copyCount());
+  Printer().setPageOrientation(chosen.pageLayout().orientation());
+}

@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#pragma once
+
+#include <QDialog>
+#include <functional>
+#include <memory>
+
+#include "reports/ReportTopics.h"
+
+class DailyReport;
+class QPrinter;
+class QTreeWidget;
+class QTreeWidgetItem;
+
+/// Asks which topics the daily report is to hold, and prints it, shows it first, or saves it as a PDF. Every topic is ticked when it
+/// opens; nothing is remembered from an earlier use.
+class frmDayPrint : public QDialog {
+  Q_OBJECT
+
+ public:
+  /// What it meets outside; a test puts its own in their place.
+  struct Services {
+    std::function<bool()> hasPrinter;                             ///< is there any?
+    std::function<void(const ReportTopics &)> print;              ///< on paper; throws ReportError
+    std::function<QString(const QString &suggested)> askFile;     ///< empty for none
+    std::function<bool(const QString &question)> offerPdf;        ///< after a printer failed
+    std::function<void(const QString &sentence, bool bad)> tell;  ///< in a message
+  };
+
+  explicit frmDayPrint(DailyReport &report, QWidget *parent = nullptr);
+  frmDayPrint(DailyReport &report, Services services, QWidget *parent = nullptr);
+  ~frmDayPrint() override;
+
+  ReportTopics Topics() const;
+
+ public slots:
+  void Print();
+  void SavePdf();
+  void Preview();
+  void PrinterOptions();  ///< copies and orientation
+
+ private:
+  void Build();
+  void OnItemChanged(QTreeWidgetItem *item);
+  Services OwnServices();
+  QPrinter &Printer();
+
+  DailyReport &report_;
+  Services services_;
+  QTreeWidget *tvwPrint = nullptr;
+  std::unique_ptr<QPrinter> printer_;
+};

@@ -1,0 +1,190 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+// The screen of places, countries, calculation options and the user's details.
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QTabWidget>
+#include <QTest>
+
+#include "persons/PersonFiles.h"
+#include "persons/frmEditLongLat.h"
+#include "platform/Notices.h"
+
+namespace {
+
+class EditLongLat : public PersonFiles {
+ public:
+  EditLongLat() : db(OpenPersons()) { Open(); }
+
+  void Open() {
+    screen = std::make_unique<frmEditLongLat>(db, settings, clsIni(AppPaths(At("app"))));
+    screen->show();
+  }
+  template <class T>
+  T *Find(const char *name) const {
+    T *found = screen->findChild<T *>(QLatin1String(name));
+    EXPECT_TRUE(found) << name;
+    return found;
+  }
+  void Click(const char *name) const { Find<QAbstractButton>(name)->click(); }
+  void Set(const char *name, const char *text) const {
+    if (auto *list = screen->findChild<QComboBox *>(QLatin1String(name)))
+      list->setEditText(text);
+    else
+      Find<QLineEdit>(name)->setText(text);
+  }
+  QString Text(const char *name) const {
+    const auto *list = screen->findChild<QComboBox *>(QLatin1String(name));
+    return list ? list->currentText() : Find<QLineEdit>(name)->text();
+  }
+  Recordset Cities(const char *name) const { return db->OpenRecordset("SELECT * FROM City WHERE City = ? ORDER BY Country", {name}); }
+
+  std::shared_ptr<Database> db;
+  MemoryUserSettings settings;
+  std::unique_ptr<frmEditLongLat> screen;
+  NoticeRecorder notices;
+};
+
+TEST_F(EditLongLat, SavesChangesAndDeletesAPlace) {
+  EXPECT_EQ(screen->windowTitle(), "Options");
+  Click("cmdAdd");
+  EXPECT_EQ(Text("txtLat"), "000:00");
+  Set("cmbCityList", "O'Town");
+  Set("cbocCountry", "Atlantis");
+  Set("txtLat", "090:30");
+  Set("txtLong", "27:09");
+  Click("optSouth");
+  Set("txtCitGMT", "-3.30");
+  Click("cmdSave");
+  ASSERT_EQ(notices.Seen().size(), 1U);
+  EXPECT_EQ(notices.Seen()[0].title, "Country Not Found");
+  EXPECT_EQ(notices.Seen()[0].text, "Invalid Country, Please Select a Country From The List.");
+  EXPECT_TRUE(Cities("O'Town").IsEmpty());
+
+  Set("cbocCountry", "india");
+  Click("cmdSave");
+  ASSERT_EQ(Cities("O'Town").RecordCount(), 1);
+  EXPECT_EQ(Cities("O'Town").Field("Lat").toString(), "09030") << "latitudes up to 180 pass";
+  EXPECT_EQ(Cities("O'Town").Field("Longy").toString(), "02709");
+  EXPECT_EQ(Cities("O'Town").Field("NOSO").toString(), "S");
+  EXPECT_EQ(Cities("O'Town").Field("EaWe").toString(), "E");
+  EXPECT_EQ(Cities("O'Town").Field("GMTDIFF").toString(), "-03.30");
+  EXPECT_EQ(Text("txtLong"), "027:09");
+
+  Click("cmdChange");
+  Click("optWest");
+  Click("cmdSave");
+  ASSERT_EQ(Cities("O'Town").RecordCount(), 1) << "changed, not added";
+  EXPECT_EQ(Cities("O'Town").Field("EaWe").toString(), "W");
+
+  Click("cmdDelete");
+  EXPECT_TRUE(Cities("O'Town").IsEmpty());
+  Click("cmdUndo");
+  EXPECT_EQ(Cities("O'Town").Field("EaWe").toString(), "W");
+}
+
+TEST_F(EditLongLat, APlaceIsChosenByTypingAndTheRightOneOfSeveralIsDeleted) {
+  auto *city = Find<QComboBox>("cmbCityList");
+  city->lineEdit()->setFocus();
+  city->lineEdit()->selectAll();
+  QTest::keyClicks(city->lineEdit(), "springfield");
+  const int before = Cities("Springfield").RecordCount();
+  ASSERT_GT(before, 5);
+  EXPECT_TRUE(Find<QLabel>("lblCityNote")->text().contains("Missouri"));
+  Click("cmdDelete");
+  EXPECT_EQ(Cities("Springfield").RecordCount(), before - 1);
+  EXPECT_TRUE(db->OpenRecordset("SELECT * FROM City WHERE City = 'Springfield' AND Region = 'Missouri'").IsEmpty());
+  Click("cmdUndo");
+  EXPECT_EQ(Cities("Springfield").RecordCount(), before);
+}
+
+TEST_F(EditLongLat, WarnsOfAnglesAbove180AndRefusesTheUnreadable) {
+  const std::pair<const char *, const char *> fields[] = {{"txtLat", "Invalid Latitude"}, {"txtLong", "Invalid Longitude"}};
+  for (const auto &[field, title] : fields) {
+    for (const char *text : {"180:00", "090:30", "181:00"}) {
+      notices.Clear();
+      Set(field, text);
+      QFocusEvent leaving(QEvent::FocusOut);
+      QApplication::sendEvent(Find<QLineEdit>(field), &leaving);
+      EXPECT_EQ(Text(field), text) << "the value stays";
+      ASSERT_EQ(notices.Seen().size(), text == std::string("181:00") ? 1U : 0U) << text;
+    }
+    EXPECT_EQ(notices.Seen()[0].title, title);
+    EXPECT_EQ(notices.Seen()[0].text, "Please enter a value under 180.");
+  }
+  Click("cmdAdd");
+  Set("cmbCityList", "Badplace");
+  Set("cbocCountry", "India");
+  for (const auto &[field, text] : {std::pair("txtLat", "north"), {"txtLong", "181:00"}, {"txtCitGMT", "5"}}) {
+    const QString good = Text(field);
+    Set(field, text);
+    Click("cmdSave");
+    EXPECT_TRUE(Cities("Badplace").IsEmpty()) << field;
+    EXPECT_FALSE(Find<QLabel>((std::string("fault_") + field).c_str())->isHidden()) << field;
+    EXPECT_EQ(Text(field), text);
+    Set(field, qPrintable(good));
+  }
+  Click("cmdSave");
+  EXPECT_EQ(Cities("Badplace").RecordCount(), 1);
+}
+
+TEST_F(EditLongLat, CountriesAreAddedChangedAndDeleted) {
+  const auto difference = [&](const char *name) {
+    const Recordset row = db->OpenRecordset("SELECT * FROM Country WHERE Name = ?", {name});
+    return row.RecordCount() == 1 ? row.Field("GMTDIF").toString() : QString::number(row.RecordCount());
+  };
+  Click("cmdCAdd");
+  EXPECT_EQ(Text("txtGMTDiff"), "+00.00");
+  EXPECT_EQ(Text("cboCNTRY"), "");
+  Set("cboCNTRY", "Utopia");
+  Set("txtGMTDiff", "2.30");
+  Click("cmdCSave");
+  EXPECT_EQ(difference("Utopia"), "+02.30");
+  Click("cmdCModify");
+  Set("cboCNTRY", "New Utopia");
+  Click("cmdCSave");
+  EXPECT_EQ(difference("Utopia"), "0");
+  EXPECT_EQ(difference("New Utopia"), "+02.30");
+  Click("cmdCDel");
+  EXPECT_EQ(difference("New Utopia"), "0");
+  Click("cmdUndo");
+  EXPECT_EQ(difference("New Utopia"), "+02.30");
+  EXPECT_GE(Find<QComboBox>("cbocCountry")->findText("New Utopia"), 0) << "both lists are filled again";
+}
+
+TEST_F(EditLongLat, OptionsAndDetailsAreKept) {
+  struct Row {
+    const char *stored, *chosen;
+  };
+  for (const Row &row : {Row{"", "optLahiri"}, Row{"3", "optKP"}, Row{"12", "optSayan"}, Row{"13", "optCustom"}, Row{"15", "optLahiri"}}) {
+    if (*row.stored) settings.SetValue(SettingKeys::AyanType, row.stored);
+    Open();
+    EXPECT_TRUE(Find<QAbstractButton>(row.chosen)->isChecked()) << row.stored;
+    EXPECT_TRUE(Find<QAbstractButton>("optVakya")->isHidden());
+    EXPECT_TRUE(Find<QWidget>("framMethod")->isHidden());
+  }
+  EXPECT_EQ(Text("txtCustAyan"), "00.00");
+  Click("optCustom");
+  Click("optRahuTrue");
+  Set("txtCustAyan", "23,5");
+  Click("cmdSaveAyanKundStyle");
+  EXPECT_EQ(settings.IntValue(SettingKeys::AyanType), 15) << "unreadable degrees are not saved";
+  Set("txtCustAyan", "23.50");
+  Click("cmdSaveAyanKundStyle");
+  EXPECT_EQ(settings.IntValue(SettingKeys::AyanType), 13);
+  EXPECT_EQ(settings.IntValue(SettingKeys::RahuKetuMode), 2);
+  EXPECT_EQ(settings.Value(SettingKeys::CustAyan), "23.50");
+
+  Set("txtName", "Asha");
+  Find<QPlainTextEdit>("txtAddress")->setPlainText("12 Ghat Road");
+  Click("cmdSaveYourDet");
+  const clsIni ini(AppPaths(At("app")));
+  EXPECT_EQ(ini.GetIniString("DispName", ""), "Asha");
+  EXPECT_EQ(ini.GetIniString("DispAdd", ""), "12 Ghat Road");
+}
+
+}  // namespace

@@ -1,0 +1,255 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+// The screen that adds, edits and deletes persons, driven as a user drives it.
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QTest>
+
+#include "persons/PersonFiles.h"
+#include "persons/frmManageUsers.h"
+#include "platform/Notices.h"
+
+namespace {
+
+class ManageUsers : public PersonFiles {
+ public:
+  ManageUsers() : db(OpenPersons()) { Open(); }
+
+  void Open() {
+    screen = std::make_unique<frmManageUsers>(db, At("Daily.dat"));
+    screen->show();
+  }
+  template <class T>
+  T *Find(const char *name) const {
+    T *found = screen->findChild<T *>(QLatin1String(name));
+    EXPECT_TRUE(found) << name;
+    return found;
+  }
+  QLineEdit *Edit(const char *name) const {
+    if (auto *list = screen->findChild<QComboBox *>(QLatin1String(name))) return list->lineEdit();
+    return Find<QLineEdit>(name);
+  }
+  QString Text(const char *name) const {
+    const auto *list = screen->findChild<QComboBox *>(QLatin1String(name));
+    return list ? list->currentText() : Find<QLineEdit>(name)->text();
+  }
+  void Type(const char *name, const QString &text) const {
+    Edit(name)->setFocus();
+    Edit(name)->selectAll();
+    QTest::keyClick(Edit(name), Qt::Key_Delete);
+    QTest::keyClicks(Edit(name), text);
+  }
+  void Choose(const char *name, const QString &text) const { Find<QComboBox>(name)->setCurrentText(text); }
+  void Click(const char *name) const { Find<QAbstractButton>(name)->click(); }
+  QString Fault(const char *field) const {
+    const auto *label = Find<QLabel>((std::string("fault_") + field).c_str());
+    return label->isHidden() ? QString() : label->text();
+  }
+  // As another program would see both files.
+  PersonStore Store() const { return PersonStore(OpenPersons(), At("Daily.dat")); }
+  void FillNew(const QString &name) const {
+    Click("flpAddUser");
+    Choose("cmbPerson", name);
+    Choose("cmbBirthDay", "15");
+    Choose("cmbBirthMonth", "January");
+    Choose("cmbBirthYear", "1944");
+    Type("txtPerBirthTime", "21.05");
+    Type("cmbBirthCountry", "united states");
+    Type("cmbBirthCity", "new yor");
+  }
+
+  std::shared_ptr<Database> db;
+  std::unique_ptr<frmManageUsers> screen;
+  NoticeRecorder notices;
+};
+
+TEST_F(ManageUsers, AddsAPersonBornFarAwayWithTheClockOfThatDay) {
+  EXPECT_EQ(Text("cmbPerson"), "Anvik Telvar") << "the first person is chosen";
+  EXPECT_EQ(Text("txtPerBirthTime"), "10.50");
+  EXPECT_EQ(Text("txtLati"), "027:09");
+  EXPECT_EQ(Text("txtResGMT"), "+00.00") << "no residence is stored";
+  EXPECT_FALSE(Find<QAbstractButton>("optMale")->isEnabled());
+
+  FillNew("Mary O'Neil");
+  EXPECT_EQ(Text("cmbBirthCountry"), "United States of America");
+  EXPECT_EQ(Text("cmbBirthCity"), "New York") << "completed";
+  EXPECT_EQ(Text("txtLati"), "040:43");
+  EXPECT_EQ(Text("TextEW"), "W");
+  EXPECT_EQ(Text("txtGMT"), "-05.00");
+  EXPECT_TRUE(Find<QAbstractButton>("optPM")->isChecked());
+  const auto *clock = Find<QLabel>("lblClock_txtGMT");
+  EXPECT_TRUE(clock->text().contains("-04.00") && clock->text().contains("war time")) << clock->text();
+  Click("cmdUse_txtGMT");
+  EXPECT_EQ(Text("txtGMT"), "-04.00");
+  EXPECT_TRUE(Find<QAbstractButton>("cmdUse_txtGMT")->isHidden());
+  Click("optFemale");
+  Click("flpSave");
+
+  const auto stored = Store().Find("Mary O'Neil");
+  ASSERT_TRUE(stored);
+  EXPECT_EQ(stored->Hour, 21);
+  EXPECT_EQ(stored->AMPM, 2);
+  EXPECT_EQ(stored->Sex, 2);
+  EXPECT_EQ(stored->birth, (PersonPlace{"New York", "United States of America", "-04.00", 40, 43, "N", 74, 0, "W"}));
+  EXPECT_EQ(stored->residence, (PersonPlace{"", "", "+00.00", 0, 0, "N", 0, 0, "E"})) << "the defaults shown";
+  EXPECT_TRUE(notices.Seen().empty()) << "success is not confirmed";
+
+  // An edit changes everything but the sex, and both files.
+  Type("txtPerBirthTime", "00.30");
+  Find<QAbstractButton>("optMale")->setChecked(true);
+  Type("cmbResCountry", "united king");
+  EXPECT_EQ(Text("txtResGMT"), "+00.00");
+  Type("cmbResCity", "lond");
+  Click("flpSave");
+  EXPECT_EQ(Store().Find("Mary O'Neil")->Hour, 0);
+  EXPECT_EQ(Store().Find("Mary O'Neil")->Sex, 2);
+  EXPECT_EQ(Store().Find("Mary O'Neil")->residence->City, "London");
+  EXPECT_EQ(Store().Names().size(), 2);
+
+  QSignalSpy closed(screen.get(), &frmManageUsers::Closed);
+  Click("flpClose");
+  ASSERT_EQ(closed.size(), 1);
+  EXPECT_EQ(closed[0][0].toString(), "Mary O'Neil");
+}
+
+TEST_F(ManageUsers, HalvesOfTheDayRewriteTheTime) {
+  struct Row {
+    const char *typed, *half, *time;
+  };
+  for (const Row &row :
+       {Row{"01.30", "optPM", "13.30"}, Row{"12.30", "optAM", "00.30"}, Row{"23.59", "optAM", "11.59"}, Row{"11.59", "optAM", "11.59"}}) {
+    Type("txtPerBirthTime", row.typed);
+    Click(row.half);
+    EXPECT_EQ(Text("txtPerBirthTime"), row.time) << row.typed;
+  }
+  Type("txtPerBirthTime", "12.00");
+  EXPECT_TRUE(Find<QAbstractButton>("optPM")->isChecked());
+  Type("txtPerBirthTime", "9.00");
+  EXPECT_TRUE(Find<QAbstractButton>("optAM")->isChecked());
+}
+
+TEST_F(ManageUsers, WhatCannotBeReadStaysAndIsNotSaved) {
+  struct Row {
+    const char *field, *text, *fault;
+  };
+  const Row rows[] = {
+      {"txtPerBirthTime", "9.5", "fault"}, {"txtLati", "27.9", "fault"},   {"txtLati", "091:00", "fault"}, {"txtLongi", "181:00", "fault"},
+      {"txtGMT", "5,30", "fault"},         {"txtResGMT", "soon", "fault"}, {"txtLat", "", "fault"},        {"txtLong", "000:60", "fault"}};
+  const auto before = Store().All();
+  for (const Row &row : rows) {
+    screen->ChoosePerson("Anvik Telvar");
+    Type(row.field, row.text);
+    Click("flpSave");
+    EXPECT_FALSE(Fault(row.field).isEmpty()) << row.field << " " << row.text;
+    EXPECT_EQ(Text(row.field), row.text) << "stays";
+    EXPECT_EQ(Store().All(), before);
+  }
+  screen->ChoosePerson("Anvik Telvar");
+  Choose("cmbBirthMonth", "February");
+  Choose("cmbBirthDay", "30");
+  Click("flpSave");
+  EXPECT_EQ(Fault("cmbBirthDay"), "There is no 30 February 1980.");
+  EXPECT_EQ(Store().All(), before);
+
+  for (const char *blank : {"", "   "}) {
+    notices.Clear();
+    Choose("cmbPerson", blank);
+    Click("flpSave");
+    ASSERT_EQ(notices.Seen().size(), 1U);
+    EXPECT_EQ(notices.Seen()[0].text, "Please enter a name.");
+  }
+  EXPECT_EQ(Store().All(), before);
+}
+
+TEST_F(ManageUsers, DeletingIsNotAskedAndCanBeTakenBack) {
+  FillNew("Zoya");
+  Type("cmbResCity", "Lima");
+  Click("flpSave");
+  const auto before = Store().All();
+  Click("flpDelUser");
+  EXPECT_EQ(Store().Names().size(), 1);
+  EXPECT_EQ(Text("cmbPerson"), "Anvik Telvar") << "the first entry is chosen";
+  Click("cmdUndo");
+  EXPECT_EQ(Store().All(), before);
+  EXPECT_EQ(Text("cmbPerson"), "Zoya");
+
+  // The last one leaves an empty list.
+  Click("flpDelUser");
+  Click("flpDelUser");
+  EXPECT_TRUE(Store().Names().isEmpty());
+  EXPECT_EQ(Text("cmbPerson"), "");
+  EXPECT_EQ(Text("txtGMT"), "00.00");
+  Click("cmdUndo");
+  EXPECT_EQ(Store().Names(), QStringList{"Anvik Telvar"});
+}
+
+TEST_F(ManageUsers, ANameThatIsSomebodyElsesIsNotOverwrittenUnawares) {
+  FillNew("Zoya");
+  Click("flpSave");
+  const auto before = Store().All();
+  FillNew("anvik telvar");
+  EXPECT_TRUE(Fault("cmbPerson").contains("in the list already"));
+  Click("flpSave");
+  EXPECT_NE(Store().All(), before);
+  Click("cmdUndo");
+  EXPECT_EQ(Store().All(), before);
+
+  // Leaving with something unsaved says so once; the changes left behind by another choice come back at a click.
+  screen->ChoosePerson("Zoya");
+  Type("txtPerBirthTime", "03.33");
+  screen->ChoosePerson("Anvik Telvar");
+  EXPECT_EQ(Text("txtPerBirthTime"), "10.50");
+  Click("cmdUndo");
+  EXPECT_EQ(Text("cmbPerson"), "Zoya");
+  EXPECT_EQ(Text("txtPerBirthTime"), "03.33");
+  QSignalSpy closed(screen.get(), &frmManageUsers::Closed);
+  screen->close();
+  EXPECT_EQ(closed.size(), 0);
+  screen->close();
+  EXPECT_EQ(closed.size(), 1);
+}
+
+TEST_F(ManageUsers, ListsGoOutAndComeInAgain) {
+  FillNew("Zoya, \"the\" first");
+  Click("flpSave");
+  const auto before = Store().All();
+  for (const char *file : {"persons.csv", "persons.json"}) {
+    screen->ExportTo(At(file));
+    for (const PersonRecord &person : before) Store().Delete(person.Name);
+    screen->ImportFrom(At(file));
+    EXPECT_EQ(Store().All(), before) << file;
+  }
+  Click("cmdUndo");
+  EXPECT_TRUE(Store().Names().isEmpty()) << "the list that came in last is taken back";
+  EXPECT_TRUE(notices.Seen().empty());
+  screen->ImportFrom(At("absent.csv"));
+  EXPECT_EQ(notices.Seen().size(), 1U);
+}
+
+TEST_F(ManageUsers, TypingNarrowsToTheChosenCountryOnly) {
+  Click("flpAddUser");
+  Type("cmbBirthCity", "Ujj");
+  EXPECT_EQ(Text("cmbBirthCountry"), "India");
+  Type("cmbBirthCity", "Lond");
+  EXPECT_EQ(Text("cmbBirthCountry"), "United Kingdom") << "a country that came with a city was not chosen";
+  Type("cmbBirthCountry", "Canad");
+  Type("cmbBirthCity", "London");
+  EXPECT_EQ(Text("txtLati"), "042:59");
+  Type("cmbBirthCity", "Qqq");
+  EXPECT_EQ(Text("txtLati"), "000:00");
+  EXPECT_EQ(Text("TextEW"), "E");
+  EXPECT_EQ(Text("cmbBirthCity"), "Qqq");
+
+  // Deleting does not bring back what was deleted.
+  Type("cmbBirthCity", "Toront");
+  EXPECT_EQ(Text("cmbBirthCity"), "Toronto");
+  QTest::keyClick(Edit("cmbBirthCity"), Qt::Key_Backspace);
+  EXPECT_EQ(Text("cmbBirthCity"), "Toront");
+  QTest::keyClick(Edit("cmbBirthCity"), Qt::Key_Backspace);
+  EXPECT_EQ(Text("cmbBirthCity"), "Toron");
+}
+
+}  // namespace
