@@ -4,6 +4,7 @@
 #include <benchmark/benchmark.h>
 #include <swephexp.h>
 
+#include "analysis/ScoresPage.h"
 #include "analysis/SelvaniDailyMod.h"
 #include "content/Languages.h"
 
@@ -105,6 +106,18 @@ void BuildAnalysisAndFillMainPage(benchmark::State &state) {
   }
 }
 BENCHMARK(BuildAnalysisAndFillMainPage)->Unit(benchmark::kMillisecond);
+
+// A chart a day for the thirty days after the analysis.
+void ScoresOfThirtyDays(benchmark::State &state) {
+  OpenSession open;
+  QDateTime moment(QDate(2026, 11, 21), QTime(9, 0), Qt::UTC);
+  for (auto _ : state) {
+    moment = moment.addSecs(60);
+    open.session.BuildAnalysis(moment);
+    benchmark::DoNotOptimize(ScoresAhead(open.session.BirthChart(), open.session.TodayChart()));
+  }
+}
+BENCHMARK(ScoresOfThirtyDays)->Unit(benchmark::kMillisecond);
 
 void OneGetHeadValue(benchmark::State &state) {
   OpenSession open;

@@ -69,7 +69,7 @@ NowCardPage FillNowCard(const clsPlanets &todayChart) {
   const QDateTime tithiEnd = EndOfTithi(todayChart), nakshatraEnd = EndOfNakshatra(todayChart);
   double nextTithi = tithi >= 30 ? 1 : tithi + 1, nextNakshatra = nakshatra >= 27 ? 1 : nakshatra + 1;
   const QDateTime now = todayChart.clsPerson().GetBirthDate();
-  page.nextChange = tithiEnd <= nakshatraEnd ? todayChart.GetTithiName(nextTithi) + QLatin1Char(' ') + ClockText(tithiEnd, now)
+  page.nextChange = tithiEnd <= nakshatraEnd ? todayChart.GetTithiName(nextTithi).section(QLatin1Char(' '), -1) + QLatin1Char(' ') + ClockText(tithiEnd, now)
                                              : todayChart.GetNakshatraName(nextNakshatra) + QLatin1Char(' ') + ClockText(nakshatraEnd, now);
   page.rahuKaal = TimeRangeText(todayChart.GetRahuKaalStartToday(), todayChart.GetRahuKaalSpanToday())
                       .remove(QStringLiteral(" AM"))

@@ -7,7 +7,7 @@
 class clsPlanets;
 
 // Rates a day from 0 to 100 on seven themes of life. Each score is a sum of rules of equal weight; a rule gives its
-// weight or nothing, and a few give a part of it. No screen shows the scores yet.
+// weight or nothing, and a few give a part of it.
 class clsDayGraph {
  public:
   // What the rules ask of the two charts.

@@ -8,6 +8,7 @@
 
 #include "analysis/PredictionPages.h"
 #include "analysis/SelvaniDailyMod.h"
+#include "app/StudyJson.h"
 #include "panchang/DailyYogas.h"
 
 namespace {
@@ -136,6 +137,9 @@ QJsonArray YogasArray(const clsPlanets &today) {
 
 QByteArray DailyJson(SelvaniDailyMod &session) {
   const UserSettings &settings = session.Settings();
+  QJsonObject birthChart = ChartObject(session.BirthChart()), dayChart = ChartObject(session.TodayChart());
+  AddStudy(birthChart, session.BirthChart());
+  AddStudy(dayChart, session.TodayChart());
   const QJsonObject day{
       {"person", PersonObject(session.BirthChart().clsPerson())},
       {"residence", PersonObject(session.TodayChart().clsPerson())},
@@ -148,11 +152,12 @@ QByteArray DailyJson(SelvaniDailyMod &session) {
                                {"CalcVarMod", settings.IntValue(SettingKeys::CalcVarMod)},
                                {"KundStyle", settings.IntValue(SettingKeys::KundStyle)}}},
       {"overview", OverviewObject(session)},
-      {"birth", ChartObject(session.BirthChart())},
-      {"day", ChartObject(session.TodayChart())},
+      {"birth", birthChart},
+      {"day", dayChart},
       {"dasha", DashaObject(session)},
       {"texts", TextsObject(session.BirthChart(), session.TodayChart())},
       {"yogas", YogasArray(session.TodayChart())},
+      {"scores", ScoresObject(session.BirthChart(), session.TodayChart())},
   };
   return QJsonDocument(day).toJson();
 }

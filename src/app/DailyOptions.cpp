@@ -156,6 +156,8 @@ DailyOptions DailyOptions::Parse(const QStringList &arguments) {
   option("text", "Print text (the default).");
   option("json", "Print one JSON object with full-precision numbers.");
   option("read", "Print the day's texts to read.");
+  option("pdf", "Write the daily report to a PDF and print nothing.", "FILE");
+  option("topics", "The topics of the report, parted by commas, as in FrontPage,Rashifala; all when left out.", "KEY,KEY");
   option("app-dir", "The folder that holds the data folder EPHE.", "DIR");
   option("help", "Show this help and end.");
   option("version", "Show the version and end.");
@@ -180,6 +182,13 @@ DailyOptions DailyOptions::Parse(const QStringList &arguments) {
   options.appDir = parser.value(QStringLiteral("app-dir"));
   if (parser.isSet(QStringLiteral("app-dir")) && options.appDir.trimmed().isEmpty())
     Refuse("app-dir", options.appDir, "the folder that holds the data folder EPHE");
+
+  options.pdfFile = parser.value(QStringLiteral("pdf"));
+  if (parser.isSet(QStringLiteral("pdf")) && options.pdfFile.trimmed().isEmpty())
+    Refuse("pdf", options.pdfFile, "the file to write, as in day.pdf");
+  if (parser.isSet(QStringLiteral("topics")) && options.pdfFile.isEmpty())
+    throw UsageError(QStringLiteral("--topics belongs to a report; give --pdf day.pdf with it."));
+  options.topics = parser.value(QStringLiteral("topics")).split(QLatin1Char(','), Qt::SkipEmptyParts);
 
   options.personName = parser.value(QStringLiteral("person"));
   if (parser.isSet(QStringLiteral("person")) && options.personName.trimmed().isEmpty())

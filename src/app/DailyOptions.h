@@ -23,6 +23,8 @@ struct DailyOptions {
   std::optional<QDateTime> at;           // local moment at the residence; none: now
   std::optional<int> ayanType, nodes, upagraha;
   std::optional<QString> customAyan;  // decimal degrees
+  QString pdfFile;                    // empty: no report
+  QStringList topics;                 // of the report, by key; empty for all
   QString helpText;
 
   // Throws UsageError with one sentence that names what is wrong and shows the right form.

@@ -3,13 +3,18 @@
 // orvani-daily: the day of a person without a screen, for terminals, cron and scripts.
 #include <QCoreApplication>
 #include <QDateTime>
+#include <QGuiApplication>
+#include <algorithm>
 #include <cstdio>
+#include <memory>
+#include <string_view>
 
 #include "Version.h"
 #include "analysis/SelvaniDailyMod.h"
 #include "app/DailyJson.h"
 #include "app/DailyOptions.h"
 #include "app/DailyText.h"
+#include "app/Maker.h"
 #include "content/Languages.h"
 #include "engine/Ephemeris.h"
 #include "platform/AppPaths.h"
@@ -18,6 +23,7 @@
 #include "platform/Recordset.h"
 #include "platform/UserSettings.h"
 #include "platform/clsIni.h"
+#include "reports/DailyReport.h"
 
 namespace {
 
@@ -38,14 +44,18 @@ QString VersionText() {
       .arg(QStringLiteral(ORVANI_VERSION), Ephemeris::Version(), Ephemeris::Source());
 }
 
-std::shared_ptr<TextDb> OpenWords(const AppPaths &paths, const clsIni &ini) {
+LanguageRow ChosenLanguage(const AppPaths &paths, const clsIni &ini) {
   const QString english = QStringLiteral("English");
   std::optional<LanguageRow> language = FindLanguage(paths, ini.GetIniString(QStringLiteral("SelLang"), english));
   if (!language) language = FindLanguage(paths, english);
   if (!language)
     throw StoreError(QStringLiteral("The list of languages '%1' holds no English row. Please re-install.").arg(paths.LangsPath()));
-  std::shared_ptr<TextDb> words = OpenLanguageDb(paths, language->Directory);
-  if (!words) throw StoreError(QStringLiteral("The data file of the language %1 is missing. Please re-install.").arg(language->Name));
+  return *language;
+}
+
+std::shared_ptr<TextDb> OpenWords(const AppPaths &paths, const LanguageRow &language) {
+  std::shared_ptr<TextDb> words = OpenLanguageDb(paths, language.Directory);
+  if (!words) throw StoreError(QStringLiteral("The data file of the language %1 is missing. Please re-install.").arg(language.Name));
   return words;
 }
 
@@ -65,8 +75,10 @@ int ShowDay(const DailyOptions &options, const AppPaths &paths, std::shared_ptr<
   if (options.upagraha) settings.SetIntValue(SettingKeys::UpagrahaMode, *options.upagraha);
 
   const auto residences = Database::OpenDatabase(paths.DailyPath(), Database::Mode::ReadOnly);
-  SelvaniDailyMod session(settings, {OpenWords(paths, ini), persons, residences});
+  const LanguageRow language = ChosenLanguage(paths, ini);
+  SelvaniDailyMod session(settings, {OpenWords(paths, language), persons, residences});
   try {
+    const ReportTopics topics = ReportTopics::FromKeys(options.topics);
     if (options.birth) {
       session.SetBirthPerson(*options.birth);
     } else if (!options.personName.isEmpty()) {
@@ -79,6 +91,10 @@ int ShowDay(const DailyOptions &options, const AppPaths &paths, std::shared_ptr<
     }
     session.SetResidence(options.residence);
     session.BuildAnalysis(options.at.value_or(QDateTime(QDate::currentDate(), QTime::currentTime(), Qt::UTC)));
+    if (!options.pdfFile.isEmpty()) {
+      DailyReport(session, paths, language, Maker::WebAddress).SavePdf(options.pdfFile, topics);
+      return 0;
+    }
     switch (options.form) {
       case DailyOptions::Form::Json: Print(QString::fromUtf8(DailyJson(session))); break;
       case DailyOptions::Form::Read: Print(DailyReading(session)); break;
@@ -101,14 +117,25 @@ int Run(const DailyOptions &options) {
   return options.action == DailyOptions::Action::ListPersons ? ListPersons(*persons) : ShowDay(options, paths, persons);
 }
 
+// Fonts need the part of Qt that draws, though no window is shown: not even a screen is needed.
+std::unique_ptr<QCoreApplication> MakeApplication(int &argc, char **argv) {
+  const bool draws = std::any_of(argv + 1, argv + argc, [](std::string_view argument) {
+    return argument == "--pdf" || argument == "-pdf" || argument.starts_with("--pdf=") || argument.starts_with("-pdf=");
+  });
+  if (!draws) return std::make_unique<QCoreApplication>(argc, argv);
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});  // a bare session is no news to mail
+  return std::make_unique<QGuiApplication>(argc, argv);
+}
+
 }  // namespace
 
 int main(int argc, char **argv) {
-  const QCoreApplication app(argc, argv);
+  const auto app = MakeApplication(argc, argv);
   QCoreApplication::setApplicationName(QStringLiteral("orvani"));
   QCoreApplication::setApplicationVersion(QStringLiteral(ORVANI_VERSION));
   try {
-    const DailyOptions options = DailyOptions::Parse(app.arguments());
+    const DailyOptions options = DailyOptions::Parse(app->arguments());
     switch (options.action) {
       case DailyOptions::Action::Help: Print(options.helpText); return 0;
       case DailyOptions::Action::Version: Print(VersionText()); return 0;

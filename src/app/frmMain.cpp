@@ -24,11 +24,15 @@
 #include "app/NowCard.h"
 #include "app/SamplePerson.h"
 #include "app/frmDate.h"
+#include "app/frmStatus.h"
 #include "chart/ImageButton.h"
 #include "content/Skin.h"
 #include "content/Theme.h"
 #include "content/contentManager.h"
 #include "content/frmSettings.h"
+#include "content/pages/AshtakavargaView.h"
+#include "content/pages/AspectsView.h"
+#include "content/pages/BirthAttributesView.h"
 #include "content/pages/ChogadiyaView.h"
 #include "content/pages/CreditsView.h"
 #include "content/pages/DashaView.h"
@@ -42,11 +46,18 @@
 #include "content/pages/PlanetTableView.h"
 #include "content/pages/RichTextPage.h"
 #include "content/pages/RichTextView.h"
+#include "content/pages/ScoresView.h"
 #include "content/pages/TrishulView.h"
+#include "content/pages/UpagrahasView.h"
+#include "content/pages/VakyaView.h"
+#include "content/pages/VargasView.h"
 #include "persons/frmPeople.h"
 #include "platform/Errors.h"
 #include "platform/Notices.h"
 #include "platform/StoreKeeper.h"
+#include "reports/DailyReport.h"
+#include "reports/frmDayPrint.h"
+#include "reports/frmPratyan.h"
 
 namespace {
 
@@ -60,9 +71,12 @@ constexpr std::array<ListRow, 11> ChartListRows{
     {{0, 16}, {1, 22}, {12, 6}, {13, 11}, {14, 7}, {15, 12}, {16, 9}, {17, 10}, {18, 8}, {20, 17}, {23, 13}}};
 constexpr std::array<ListRow, 8> PredictionListRows{{{0, 28}, {1, 21}, {2, 15}, {3, 23}, {4, 25}, {5, 27}, {11, 19}, {12, 24}}};
 
+constexpr std::array<ListRow, 7> StudyListRows{{{0, 29}, {1, 30}, {2, 31}, {3, 32}, {4, 33}, {5, 34}, {6, 35}}};
+
 // The order in which the lists show their entries.
 constexpr std::array ChartListOrder{12, 18, 14, 16, 17, 23, 13, 15, 0, 20, 1};
 constexpr std::array PredictionListOrder{11, 0, 4, 5, 12, 3, 2, 1};
+constexpr std::array StudyListOrder{0, 1, 2, 3, 4, 5, 6};
 
 template <size_t N>
 int PageOf(const std::array<ListRow, N> &rows, int index) {
@@ -90,12 +104,34 @@ std::vector<ListView::Entry> ListEntries(const std::array<int, N> &order, const 
   return entries;
 }
 
+// Shows a report's progress on the status screen, and lets it be stopped there.
+class StatusProgress : public ReportProgress {
+ public:
+  StatusProgress(frmDayPrint::Target target, QWidget *parent) : status(parent) {
+    if (target == frmDayPrint::Target::Pdf)
+      status.PDFStatus();
+    else
+      status.PrintStatus();
+    status.SetCancelVisible(true);
+  }
+  bool Step(int done, int total) override {
+    status.SetProgress(done, total);
+    return !status.WasCancelled();
+  }
+
+ private:
+  frmStatus status;
+};
+
 // The navigation row that leads to a page.
 const char *SectionOf(int page) {
   if (page == OverviewPageNumber) return "fflpHome";
   if (page == CreditsPage) return "flpCredits";
   if (page == contentManager::HelpPage) return "flpHelp";
   if (page == ChartListPage) return "flpCharts";
+  if (page == contentManager::StudyListPage) return "flpStudy";
+  for (const ListRow &row : StudyListRows)
+    if (row.page == page) return "flpStudy";
   if (page == PredictionListPage) return "flpPredictions";
   for (const ListRow &row : ChartListRows)
     if (row.page == page) return "flpCharts";
@@ -223,6 +259,7 @@ void frmMain::MakeBody() {
   navigation = new NavigationColumn({{"fflpHome", tr("Home"), tr("Go to the main page")},
                                      {"flpCharts", tr("Charts"), tr("See astrological charts.")},
                                      {"flpPredictions", tr("Predictions"), tr("See predictions.")},
+                                     {"flpStudy", tr("Study"), tr("See everything else the chart knows.")},
                                      {"flpPrint", tr("Print"), tr("Print analysis.")},
                                      {"flpSettings", tr("Settings"), tr("Change program settings.")},
                                      {"flpCredits", tr("Credits"), tr("Credits list.")},
@@ -293,11 +330,30 @@ void frmMain::MakePages() {
   connect(predictions, &ListView::Chosen, this, [this](int index) { pages->ShowPage(PageOfPredictionList(index)); });
   AddView(PredictionListPage, predictions);
 
+  auto *study =
+      new ListView(QStringLiteral("picStudyList"), QStringLiteral("flpStudyList"), ListEntries(StudyListOrder, StudyListRows), host);
+  connect(study, &ListView::Chosen, this, [this](int index) { pages->ShowPage(PageOf(StudyListRows, index)); });
+  AddView(contentManager::StudyListPage, study);
+  AddView(29, new VargasView(host));
+  AddView(30, new AshtakavargaView(host));
+  AddView(31, new UpagrahasView(host));
+  AddView(32, new AspectsView(host));
+  AddView(33, new BirthAttributesView(host));
+  auto *scores = new ScoresView(host);
+  connect(scores, &ScoresView::GoToDay, this,
+          [this](const QDate &day) { ChangeMoment(QDateTime(day, session->AnalysisMoment().time(), Qt::UTC)); });
+  AddView(34, scores);
+  AddView(35, new VakyaView(host));
+
   AddView(CreditsPage, new CreditsView(QCoreApplication::applicationVersion(), Maker::WebAddress, host));
   AddView(contentManager::HelpPage, new HelpView(paths.Ephe(QStringLiteral("HELP/english.html")), host));
   AddView(9, new PlanetTableView(PlanetTableView::Chart::Birth, host));
   AddView(10, new PlanetTableView(PlanetTableView::Chart::Today, host));
-  AddView(11, new DashaView(host));
+  auto *dasha = new DashaView(host);
+  dasha->SetTreeVisible(true);
+  connect(dasha, &DashaView::GoToTree, this, &frmMain::OpenDashaTree);
+  connect(dasha, &DashaView::StatusChanged, lblHint, &QLabel::setText);
+  AddView(11, dasha);
   AddView(12, new TrishulView(paths, host));
   AddView(13, new PanchangView(host));
   AddView(16, new ChogadiyaView(host));
@@ -484,6 +540,7 @@ void frmMain::OnNavigation(const QString &name) {
   if (name == QLatin1String("fflpHome")) pages->ShowPage(OverviewPageNumber);
   if (name == QLatin1String("flpCharts")) pages->ShowPage(ChartListPage);
   if (name == QLatin1String("flpPredictions")) pages->ShowPage(PredictionListPage);
+  if (name == QLatin1String("flpStudy")) pages->ShowPage(contentManager::StudyListPage);
   if (name == QLatin1String("flpCredits")) pages->ShowPage(CreditsPage);
   if (name == QLatin1String("flpSettings")) OpenSettings();
   if (name == QLatin1String("flpWebsite")) OpenWebsite();
@@ -522,7 +579,19 @@ void frmMain::OpenSettings() {
   ShowPersonHeader();
 }
 
-void frmMain::OpenPrint() {}
+void frmMain::OpenPrint() {
+  if (languages.empty()) return;
+  DailyReport report(*session, paths, fonts.Language(), Maker::WebAddress);
+  frmDayPrint topics(report, this);
+  topics.SetProgress([this](frmDayPrint::Target target) { return std::make_unique<StatusProgress>(target, this); });
+  topics.exec();
+}
+
+void frmMain::OpenDashaTree() {
+  frmPratyan tree(this);
+  tree.FindPratyantara(session->BirthChart(), session->TodayChart().clsPerson().GetBirthDate());
+  tree.exec();
+}
 
 void frmMain::OpenHelp() { pages->ShowPage(contentManager::HelpPage); }
 

@@ -57,6 +57,7 @@ class frmMain : public QMainWindow {
   void OpenDate();
   void OpenSettings();
   void OpenPrint();
+  void OpenDashaTree();
   void OpenHelp();
   void OpenWebsite();
   void AskExit();

@@ -41,6 +41,14 @@ const std::vector<contentManager::Row> &contentManager::Table() {
       {25, "TithiResult", "rtf"},
       {27, "NakshatraResult", "rtf"},
       {28, "WeekdayResult", "rtf"},
+      {29, "DivisionalCharts", "framVargas"},
+      {30, "Ashtakavarga", "framAshtak"},
+      {31, "Upagrahas", "framUpagrahas"},
+      {32, "Aspects", "framAspects"},
+      {33, "BirthAttributes", "framBirthAttributes"},
+      {34, "DayScores", "framScores"},
+      {35, "VakyaPositions", "framVakya"},
+      {StudyListPage, "StudyList", "picStudyList"},
   };
   return table;
 }

@@ -20,8 +20,9 @@ class contentManager : public QObject {
   Q_OBJECT
 
  public:
-  // The help page stands beside the numbered ones.
+  // The help page and the third list stand beside the numbered ones.
   static constexpr int HelpPage = 101;
+  static constexpr int StudyListPage = 102;
 
   struct Row {
     int page;

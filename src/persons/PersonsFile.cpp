@@ -93,13 +93,13 @@ QString Assemble(const Cells &cells, PersonRecord &record) {
     return field.set(record, text) ? QString() : tr("'%1' is no whole number (%2).").arg(text, QLatin1String(field.name));
   };
   for (const Field &field : PersonColumns)
-    if (const QString fault = take(field); !fault.isEmpty()) return fault;
+    if (QString fault = take(field); !fault.isEmpty()) return fault;
   bool livesSomewhere = false;
   for (const Field &field : ResidenceColumns) livesSomewhere |= !cells.value(QLatin1String(field.name).toString().toLower()).isEmpty();
   if (livesSomewhere) {
     record.residence.emplace();
     for (const Field &field : ResidenceColumns)
-      if (const QString fault = take(field); !fault.isEmpty()) return fault;
+      if (QString fault = take(field); !fault.isEmpty()) return fault;
   }
   record.Name = record.Name.trimmed();
   if (cells.value(QStringLiteral("ampm")).isEmpty()) record.AMPM = record.Hour >= 12 ? 2 : 1;
@@ -253,7 +253,7 @@ PersonsFile::Contents ReadJson(const QByteArray &content) {
   PersonsFile::Contents contents;
   const std::vector<int> lines = LinesOfObjects(content);
   std::size_t number = 0;
-  for (const QJsonValue &value : list.toArray()) {
+  for (const QJsonValue value : list.toArray()) {
     const int line = number < lines.size() ? lines[number] : 0;
     ++number;
     Cells cells;
@@ -285,7 +285,7 @@ QString PersonsFile::FaultOf(const PersonRecord &record) {
   if (record.Hour < 0 || record.Hour > 23 || record.Minutes < 0 || record.Minutes > 59 || record.seconds < 0 || record.seconds > 59)
     return tr("there is no time %1.").arg(PersonFields::TimeText(record.Hour, record.Minutes));
   if (record.Sex != 1 && record.Sex != 2) return tr("the sex is neither 1 (male) nor 2 (female).");
-  if (const QString fault = PlaceFault(record.birth); !fault.isEmpty()) return fault;
+  if (QString fault = PlaceFault(record.birth); !fault.isEmpty()) return fault;
   return record.residence ? PlaceFault(*record.residence) : QString();
 }
 

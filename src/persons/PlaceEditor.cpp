@@ -62,6 +62,7 @@ PlaceEditor::PlaceEditor(const Names &names, const QString &what, QWidget *paren
   differenceFault = MakeFault();
   takeClock = new QPushButton;
   takeClock->setObjectName(QStringLiteral("cmdUse_") + QLatin1String(names.difference));
+  takeClock->setAutoDefault(false);
   takeClock->hide();
   AddRow(tr("GMT difference"), difference, takeClock, differenceFault);
   clock = new QLabel;
@@ -253,6 +254,10 @@ std::optional<PersonPlace> PlaceEditor::Read() {
   place.TextNS = latitude.hemisphere->currentText();
   place.TextEW = longitude.hemisphere->currentText();
   return isSound ? std::optional(place) : std::nullopt;
+}
+
+bool PlaceEditor::IsNowhere() const {
+  return city->currentText().trimmed().isEmpty() && latitude.edit->text() == NoAngle && longitude.edit->text() == NoAngle;
 }
 
 void PlaceEditor::SetMoment(const QDate &day, const QTime &clockTime) {

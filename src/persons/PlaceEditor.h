@@ -36,6 +36,9 @@ class PlaceEditor : public QWidget {
   // The place as the fields tell it. Nothing where one cannot be read: it then says so beside it and keeps its text.
   std::optional<PersonPlace> Read();
 
+  // No city, at the crossing of equator and prime meridian: what the fields show before anything is entered.
+  bool IsNowhere() const;
+
   // The moment for which the clocks of the place are looked up; an invalid one for none.
   void SetMoment(const QDate &date, const QTime &time);
 

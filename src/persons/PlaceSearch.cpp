@@ -72,7 +72,7 @@ int SignedArcMinutes(const QString &stored, bool negative) {
 }  // namespace
 
 QString PlaceSearch::Fold(const QString &text) {
-  const QString lower = text.simplified().toLower();
+  QString lower = text.simplified().toLower();
   if (IsPlain(lower)) return lower;
   QString plain;
   for (const QChar c : lower.normalized(QString::NormalizationForm_D))

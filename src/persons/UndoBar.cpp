@@ -18,6 +18,7 @@ UndoBar::UndoBar(QWidget *parent) : QFrame(parent) {
   lblDone->setTextFormat(Qt::PlainText);
   cmdUndo = new QPushButton;
   cmdUndo->setObjectName(QStringLiteral("cmdUndo"));
+  cmdUndo->setAutoDefault(false);
   auto *layout = new QHBoxLayout(this);
   layout->setContentsMargins(2 * Grid::Gap, Grid::Gap, Grid::Gap, Grid::Gap);
   layout->addWidget(lblDone, 1);

@@ -36,6 +36,7 @@ const QString HomeCountry = QStringLiteral("India");
 constexpr int FirstYear = 1800;
 constexpr int WideFrom = 860;  // from this width on birth and residence stand side by side
 constexpr int MostFaultsShown = 12;
+constexpr int HeadingHeight = 3 * Grid::Gap + 4;
 
 QFrame *MakeCard() {
   auto *card = new QFrame;
@@ -55,6 +56,7 @@ QLabel *MakeLabel(const QString &text, const char *role) {
 QLabel *MakeHeading(const QString &text) {
   QLabel *label = MakeLabel(text, "head");
   ShellFonts().SetSubHeadFont(*label);
+  label->setMinimumHeight(HeadingHeight);  // that of a heading with a link beside it, so that neighbours align
   return label;
 }
 
@@ -99,7 +101,7 @@ frmManageUsers::frmManageUsers(std::shared_ptr<Database> personDb, const QString
   all->addWidget(scroll, 1);
   all->addWidget(bar);
   all->addWidget(MakeButtons());
-  resize(1000, 640);
+  resize(1000, 680);
   setMinimumSize(560, 420);
 
   ReloadPlaces();
@@ -137,6 +139,7 @@ QWidget *frmManageUsers::MakeHead() {
   completer->setCaseSensitivity(Qt::CaseInsensitive);
   completer->setFilterMode(Qt::MatchContains);
   completer->setCompletionMode(QCompleter::PopupCompletion);
+  if (auto *rows = qobject_cast<QListView *>(completer->popup())) rows->setUniformItemSizes(true);
   cmbPerson->setCompleter(completer);
   caption->setBuddy(cmbPerson);
   row->addWidget(caption);
@@ -266,17 +269,23 @@ QWidget *frmManageUsers::MakeResidence() {
   auto *same = new QPushButton(tr("Same as birth"));
   same->setObjectName(QStringLiteral("cmdSameAsBirth"));
   same->setProperty("role", "link");
+  same->setAutoDefault(false);
   same->setToolTip(tr("Take over the place of birth."));
   head->addWidget(same);
-  same->setMaximumHeight(same->fontMetrics().height() + 4);
+  same->setMaximumHeight(HeadingHeight);
   layout->addLayout(head);
-  auto *hint = MakeLabel(tr("The day is calculated for this place and its clock."), "caption");
-  hint->setWordWrap(true);
-  layout->addWidget(hint);
+  lblResidence = MakeLabel(QString(), "caption");
+  lblResidence->setObjectName(QStringLiteral("lblResidence"));
+  lblResidence->setWordWrap(true);
+  layout->addWidget(lblResidence);
   residence = new PlaceEditor({"cmbResCountry", "cmbResCity", "txtResGMT", "txtLat", "txtLatNS", "txtLong", "txtLongEW"}, tr("residence"));
   layout->addWidget(residence);
   layout->addStretch();
-  connect(same, &QPushButton::clicked, this, [this] { residence->SetTexts(birth->Texts()); });
+  connect(same, &QPushButton::clicked, this, [this] {
+    residence->SetTexts(birth->Texts());
+    ShowResidence();
+  });
+  connect(residence, &PlaceEditor::Changed, this, &frmManageUsers::ShowResidence);
   return card;
 }
 
@@ -397,6 +406,7 @@ void frmManageUsers::ShowPerson(const PersonRecord &record) {
   Say(*lblTimeFault, QString());
   ShowMoment();
   ShowName();
+  ShowResidence();
   saved = Form();
 }
 
@@ -420,6 +430,7 @@ void frmManageUsers::AddUser() {
   EmptyEverything();
   ShowMoment();
   ShowName();
+  ShowResidence();
   saved = Form();
   cmbPerson->setFocus();
 }
@@ -556,6 +567,7 @@ void frmManageUsers::SetForm(const QStringList &form) {
   birth->SetTexts(form.mid(Own, each));
   residence->SetTexts(form.mid(Own + each));
   ShowMoment();
+  ShowResidence();
 }
 
 // --- while typing ---------------------------------------------------------------------------------
@@ -574,6 +586,14 @@ void frmManageUsers::ChoseHalf(bool afternoon) {
 void frmManageUsers::ShowMoment() {
   const auto time = PersonFields::ReadTime(txtPerBirthTime->text());
   birth->SetMoment(BirthDate(), time ? QTime(time->hour, time->minutes) : QTime());
+}
+
+// A residence that was never entered is a point in the Gulf of Guinea, and a day calculated there is nobody's day.
+void frmManageUsers::ShowResidence() {
+  const bool isNowhere = residence->IsNowhere();
+  SetRole(*lblResidence, isNowhere ? "warn" : "caption");
+  lblResidence->setText(isNowhere ? tr("No place is entered: once saved, the day is calculated for 000:00 by Greenwich time.")
+                                  : tr("The day is calculated for this place and its clock."));
 }
 
 // The sex of a saved person stays; and a name that is somebody else's must not be overwritten unawares.

@@ -67,6 +67,7 @@ class frmManageUsers : public QDialog {
   void ChoseHalf(bool afternoon);
   void ShowMoment();
   void ShowName();
+  void ShowResidence();
   std::optional<PersonRecord> Read();
   QDate BirthDate() const;
 
@@ -87,6 +88,7 @@ class frmManageUsers : public QDialog {
   QLabel *lblDateFault;
   QLineEdit *txtPerBirthTime;
   QLabel *lblTimeFault;
+  QLabel *lblResidence;
   QRadioButton *optAM, *optPM, *optMale, *optFemale;
   PlaceEditor *birth, *residence;
   QBoxLayout *cards;

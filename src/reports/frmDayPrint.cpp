@@ -11,7 +11,6 @@
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
-#include <QProgressDialog>
 #include <QPushButton>
 #include <QScreen>
 #include <QStandardPaths>
@@ -36,24 +35,6 @@ class WaitPointer {
   WaitPointer &operator=(const WaitPointer &) = delete;
 };
 
-// A bar that shows, and can be stopped, when a slow disk or printer keeps the user waiting.
-class ProgressBox : public ReportProgress {
- public:
-  explicit ProgressBox(QWidget *parent) : box_(frmDayPrint::tr("Making the report..."), frmDayPrint::tr("Stop"), 0, 1, parent) {
-    box_.setWindowModality(Qt::WindowModal);
-    box_.setMinimumDuration(1500);
-    box_.setWindowTitle(frmDayPrint::tr("Print Daily Horoscope"));
-  }
-  bool Step(int done, int total) override {
-    box_.setMaximum(total);
-    box_.setValue(done);
-    return !box_.wasCanceled();
-  }
-
- private:
-  QProgressDialog box_;
-};
-
 }  // namespace
 
 frmDayPrint::frmDayPrint(DailyReport &report, QWidget *parent) : QDialog(parent), report_(report), services_(OwnServices()) { Build(); }
@@ -65,15 +46,17 @@ frmDayPrint::frmDayPrint(DailyReport &report, Services services, QWidget *parent
 
 frmDayPrint::~frmDayPrint() = default;
 
+std::unique_ptr<ReportProgress> frmDayPrint::NewProgress(Target target) const { return makeProgress_ ? makeProgress_(target) : nullptr; }
+
 frmDayPrint::Services frmDayPrint::OwnServices() {
   Services services;
   services.hasPrinter = [] { return !QPrinterInfo::availablePrinterNames().isEmpty(); };
   services.print = [this](const ReportTopics &topics) {
     if (!Printer().isValid()) throw ReportError(tr("The printer \"%1\" is not there any more.").arg(Printer().printerName()));
     QtPrinterService service(Printer());
-    ProgressBox progress(this);
+    const std::unique_ptr<ReportProgress> progress = NewProgress(Target::Printer);
     try {
-      report_.Print(service, topics, &progress);
+      report_.Print(service, topics, progress.get());
     } catch (const ReportCancelled &) {
       service.Abort();
     }
@@ -204,8 +187,8 @@ void frmDayPrint::SavePdf() {
     bool saved = false;
     {
       const WaitPointer wait;
-      ProgressBox progress(this);
-      saved = report_.SavePdf(file, Topics(), &progress);
+      const std::unique_ptr<ReportProgress> progress = NewProgress(Target::Pdf);
+      saved = report_.SavePdf(file, Topics(), progress.get());
     }
     if (!saved) return;
     services_.tell(tr("The report is saved as \"%1\".").arg(QDir::toNativeSeparators(file)), false);

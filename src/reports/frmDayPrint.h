@@ -6,6 +6,7 @@
 #include <functional>
 #include <memory>
 
+#include "reports/ReportProgress.h"
 #include "reports/ReportTopics.h"
 
 class DailyReport;
@@ -34,6 +35,10 @@ class frmDayPrint : public QDialog {
 
   ReportTopics Topics() const;
 
+  enum class Target { Printer, Pdf };
+  /// Makes what shows how far a report is, and lets it be stopped; nothing shows where it is not set.
+  void SetProgress(std::function<std::unique_ptr<ReportProgress>(Target)> make) { makeProgress_ = std::move(make); }
+
  public slots:
   void Print();
   void SavePdf();
@@ -46,6 +51,9 @@ class frmDayPrint : public QDialog {
   Services OwnServices();
   QPrinter &Printer();
 
+  std::unique_ptr<ReportProgress> NewProgress(Target target) const;
+
+  std::function<std::unique_ptr<ReportProgress>(Target)> makeProgress_;
   DailyReport &report_;
   Services services_;
   QTreeWidget *tvwPrint = nullptr;

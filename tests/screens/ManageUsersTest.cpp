@@ -102,7 +102,9 @@ TEST_F(ManageUsers, AddsAPersonBornFarAwayWithTheClockOfThatDay) {
   Find<QAbstractButton>("optMale")->setChecked(true);
   Type("cmbResCountry", "united king");
   EXPECT_EQ(Text("txtResGMT"), "+00.00");
+  EXPECT_TRUE(Find<QLabel>("lblResidence")->text().startsWith("No place is entered"));
   Type("cmbResCity", "lond");
+  EXPECT_FALSE(Find<QLabel>("lblResidence")->text().startsWith("No place is entered"));
   Click("flpSave");
   EXPECT_EQ(Store().Find("Mary O'Neil")->Hour, 0);
   EXPECT_EQ(Store().Find("Mary O'Neil")->Sex, 2);

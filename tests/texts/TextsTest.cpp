@@ -85,7 +85,7 @@ std::vector<QString> FaultsOf(const QString &text) {
       {QRegularExpression("\\s[,.;:?!)]|\\(\\s"), "a blank stands on the wrong side of a sign"},
       {QRegularExpression("[,;:][^\\s\\d\"')]|[.?!][A-Za-z]"), "a blank is missing after a sign"},
       {QRegularExpression("[,;:.?!]{2,}|\\s{2,}|--"), "signs or blanks in a row"},
-      {QRegularExpression("^[^A-Z\"0-9]"), "the first letter is small"},
+      {QRegularExpression("^[^A-Z\"0-9%]"), "the first letter is small"},
       {QRegularExpression("[^.?!\"')]$"), "the last sentence has no end"},
       {QRegularExpression("[.?!]['\")]* [a-z]"), "a sentence begins with a small letter"},
   };

@@ -3,6 +3,7 @@
 #include "content/pages/AspectsView.h"
 
 #include <QComboBox>
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QSignalBlocker>
 
@@ -51,6 +52,9 @@ AspectsView::AspectsView(QWidget *parent)
        {.element = QStringLiteral("lblDegAspects"), .head = QStringLiteral("lblDegAspectsHead")},
        {.element = QStringLiteral("lblDegWestern"), .head = QStringLiteral("lblDegWesternHead")}},
       AspectsPage::Points);
+  auto *columns = static_cast<QGridLayout *>(byDegrees->layout());
+  columns->setColumnStretch(ByDegrees, 2);
+  columns->setColumnStretch(Western, 3);
   auto *content = new QWidget;
   auto *column = new QVBoxLayout(content);
   column->setContentsMargins(0, 0, 0, 0);

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "content/pages/BirthAttributesView.h"
 
+#include <QGridLayout>
+
 #include "analysis/BirthAttributesPage.h"
 #include "analysis/SelvaniDailyMod.h"
 #include "content/SetFonts.h"
@@ -31,6 +33,8 @@ BirthAttributesView::BirthAttributesView(QWidget *parent) : PageView(parent), lb
                             {.element = QStringLiteral("lblAttributeVal"), .strong = true, .oneLine = true},
                             {.element = QStringLiteral("lblAttributeHelp"), .caption = true}},
                            static_cast<int>(std::tuple_size_v<decltype(BirthAttributesPage::rows)>));
+  // The help takes what the words beside it leave.
+  static_cast<QGridLayout *>(table->layout())->setColumnStretch(Help, 1);
   auto *card = new Card;
   card->Body()->addWidget(lblMoon);
   card->Body()->addWidget(table, 1);

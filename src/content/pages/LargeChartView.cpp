@@ -44,7 +44,11 @@ void LargeChartView::SetChartRect(const QRect &rect) {
   Place();
 }
 
-void LargeChartView::Place() { chart->setGeometry(chartRect.intersected(rect().adjusted(2, 2, -2, -2))); }
+void LargeChartView::Place() {
+  // The lines above the chart give way where the window is too low for them.
+  for (QLabel *line : {lblMoment, lblPlace}) line->setVisible(chartRect.top() >= 34);
+  chart->setGeometry(chartRect.intersected(rect().adjusted(2, 2, -2, -2)));
+}
 
 void LargeChartView::resizeEvent(QResizeEvent *event) {
   PageView::resizeEvent(event);

@@ -57,6 +57,15 @@ QString ListView::HelpLine(int page) {
     case 25: return tr("The lunar day, and what suits it.");
     case 27: return tr("The Moon's nakshatra today.");
     case 28: return tr("The lord of the weekday.");
+    case 29: return tr("Any of the seventeen, as a chart and as a table.");
+    case 30: return tr("The bindus of each planet by sign, and their total.");
+    case 31: return tr("The seventeen sensitive points, in both reckonings.");
+    case 32: return tr("Who looks at whom, by sign, by degree and by angle.");
+    case 33: return tr("Gana, nadi, yoni and the other marks of the birth star.");
+    case 34: return tr("Seven scores of the day and of the thirty to come.");
+    case 35: return tr("The siddhantic positions beside the modern ones.");
+    case 36: return tr("The day as a printed panchang has it, to the second.");
+    case 37: return tr("A month of tithis, nakshatras and sunrises at a glance.");
     default: return {};
   }
 }

@@ -47,7 +47,11 @@ void RichTextPage::SetTextRect(const QRect &rect) {
   Place();
 }
 
-void RichTextPage::Place() { rtf->setGeometry(textRect.intersected(rect().adjusted(4, 4, -4, -4))); }
+void RichTextPage::Place() {
+  // The lines above the text give way where the window is too low for them.
+  for (QLabel *line : {lblTextDay, lblTextFacts}) line->setVisible(textRect.top() >= 34);
+  rtf->setGeometry(textRect.intersected(rect().adjusted(4, 4, -4, -4)));
+}
 
 void RichTextPage::resizeEvent(QResizeEvent *event) {
   QWidget::resizeEvent(event);

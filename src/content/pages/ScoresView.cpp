@@ -53,6 +53,7 @@ ScoresView::ScoresView(QWidget *parent)
   auto *bars = new Card, *lines = new Card;
   bars->Body()->addWidget(dayHead);
   lines->Body()->addWidget(courseHead);
+  lines->Body()->setSpacing(4);
   for (size_t i = 0; i < themes.size(); ++i) {
     Theme &theme = themes[i];
     const auto element = [i](const char *name) { return QLatin1String(name) + QString::number(i); };

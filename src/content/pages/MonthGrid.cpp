@@ -1,0 +1,105 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#include "content/pages/MonthGrid.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+
+#include "content/pages/MonthPaint.h"
+
+MonthGrid::MonthGrid(QWidget *parent) : QWidget(parent) {
+  setObjectName(QStringLiteral("picMonth"));
+  setFocusPolicy(Qt::StrongFocus);
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+void MonthGrid::SetPage(const MonthPage &monthPage) {
+  page = monthPage;
+  const auto today = std::find_if(page.cells.begin(), page.cells.end(), [](const MonthPage::Cell &cell) { return cell.isToday; });
+  chosen = today == page.cells.end() ? 0 : static_cast<int>(today - page.cells.begin());
+  setAccessibleName(page.title);
+  Choose(chosen);
+  setMinimumHeight(NeededHeight());
+}
+
+QDate MonthGrid::Chosen() const {
+  return chosen >= 0 && chosen < static_cast<int>(page.cells.size()) ? page.cells[static_cast<size_t>(chosen)].date : QDate();
+}
+
+int MonthGrid::NeededHeight() const {
+  return static_cast<int>(std::ceil(MonthPaint(page, font(), const_cast<MonthGrid *>(this)).HeightFor(std::max(width(), 280))));
+}
+
+QSize MonthGrid::sizeHint() const { return {700, NeededHeight()}; }
+QSize MonthGrid::minimumSizeHint() const { return {280, 200}; }
+
+void MonthGrid::paintEvent(QPaintEvent *) {
+  QPainter painter(this);
+  MonthPaint(page, font(), this).Paint(painter, rect(), PaintInks::Screen(), hasFocus() ? chosen : -1);
+}
+
+void MonthGrid::resizeEvent(QResizeEvent *event) {
+  QWidget::resizeEvent(event);
+  setMinimumHeight(NeededHeight());
+}
+
+void MonthGrid::changeEvent(QEvent *event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::FontChange) setMinimumHeight(NeededHeight());
+}
+
+void MonthGrid::Choose(int index) {
+  if (page.cells.empty()) return;
+  chosen = std::clamp(index, 0, static_cast<int>(page.cells.size()) - 1);
+  const QString &spoken = page.cells[static_cast<size_t>(chosen)].spoken;
+  setAccessibleDescription(spoken);
+  setToolTip(spoken);
+  update();
+}
+
+void MonthGrid::Open() {
+  if (Chosen().isValid()) emit DayChosen(Chosen());
+}
+
+void MonthGrid::keyPressEvent(QKeyEvent *event) {
+  const int last = static_cast<int>(page.cells.size()) - 1;
+  int wanted = chosen;
+  switch (event->key()) {
+    case Qt::Key_Left: --wanted; break;
+    case Qt::Key_Right: ++wanted; break;
+    case Qt::Key_Up: wanted -= 7; break;
+    case Qt::Key_Down: wanted += 7; break;
+    case Qt::Key_Home: wanted = 0; break;
+    case Qt::Key_End: wanted = last; break;
+    case Qt::Key_PageUp: emit MonthWanted(-1); return;
+    case Qt::Key_PageDown: emit MonthWanted(1); return;
+    case Qt::Key_Return:
+    case Qt::Key_Enter: Open(); return;
+    default: QWidget::keyPressEvent(event); return;
+  }
+  if (wanted < 0 || wanted > last)
+    emit MonthWanted(wanted < 0 ? -1 : 1);
+  else
+    Choose(wanted);
+}
+
+void MonthGrid::mousePressEvent(QMouseEvent *event) {
+  const int index = MonthPaint(page, font(), this).CellAt(rect(), event->position());
+  if (index >= 0) Choose(index);
+}
+
+void MonthGrid::mouseDoubleClickEvent(QMouseEvent *event) {
+  if (MonthPaint(page, font(), this).CellAt(rect(), event->position()) >= 0) Open();
+}
+
+void MonthGrid::focusInEvent(QFocusEvent *event) {
+  QWidget::focusInEvent(event);
+  update();
+}
+
+void MonthGrid::focusOutEvent(QFocusEvent *event) {
+  QWidget::focusOutEvent(event);
+  update();
+}

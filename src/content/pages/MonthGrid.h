@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#pragma once
+
+#include <QWidget>
+
+#include "analysis/MonthPage.h"
+
+// The month on the screen: arrow keys and clicks choose a day, Enter or a double click asks to open it.
+class MonthGrid : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit MonthGrid(QWidget *parent = nullptr);
+
+  void SetPage(const MonthPage &monthPage);
+  QDate Chosen() const;  // not valid before a day is chosen
+
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
+
+ signals:
+  void DayChosen(const QDate &date);  // to be opened
+  void MonthWanted(int step);         // the arrow keys left the month, or Page Up and Page Down
+
+ protected:
+  void paintEvent(QPaintEvent *event) override;
+  void resizeEvent(QResizeEvent *event) override;
+  void changeEvent(QEvent *event) override;
+  void keyPressEvent(QKeyEvent *event) override;
+  void mousePressEvent(QMouseEvent *event) override;
+  void mouseDoubleClickEvent(QMouseEvent *event) override;
+  void focusInEvent(QFocusEvent *event) override;
+  void focusOutEvent(QFocusEvent *event) override;
+
+ private:
+  void Choose(int index);
+  void Open();
+  int NeededHeight() const;
+
+  MonthPage page;
+  int chosen = -1;
+};

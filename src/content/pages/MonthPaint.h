@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+#pragma once
+
+#include <QFont>
+#include <QRectF>
+#include <array>
+
+#include "analysis/MonthPage.h"
+#include "content/pages/PaintInks.h"
+
+class QPaintDevice;
+class QPainter;
+
+// A month as a grid of seven columns, for any painter. Texts wrap in their cells; a week is as high as its fullest day needs.
+class MonthPaint {
+ public:
+  MonthPaint(const MonthPage &monthPage, const QFont &textFont, QPaintDevice *paintDevice);
+
+  double HeightFor(double width) const;
+  // chosen: index of the cell with the focus, -1 for none. Weeks share what the room has beyond their need.
+  void Paint(QPainter &painter, const QRectF &room, const PaintInks &inks, int chosen = -1) const;
+  // Index of the cell at a point, -1 beside them.
+  int CellAt(const QRectF &room, const QPointF &point) const;
+
+  // On a sheet of its own with title and legend, in the largest text that fits.
+  static void PaintSheet(QPainter &painter, const QRectF &room, const MonthPage &page);
+
+ private:
+  double HeadHeight() const { return 1.8 * text; }
+  double WeekNeed(int week, double columnWidth) const;
+  double CellNeed(const MonthPage::Cell &cell, double columnWidth) const;
+  std::vector<QRectF> Cells(const QRectF &room) const;
+  void PaintCell(QPainter &painter, const QRectF &at, const MonthPage::Cell &cell, const PaintInks &inks) const;
+  double WrappedHeight(const QFont &with, const QString &words, double width) const;
+
+  const MonthPage &page;
+  QFont font, bold, date;
+  double text = 0;
+  QPaintDevice *device;
+};
