@@ -77,7 +77,8 @@ class Filler {
     for (const LimbSpan &span : spans) {
       const QString name = nameOf(span.number), remark = words.Remark(span.course);
       // "Shukla Dvadashi" may be cut to "Dvadashi".
-      QStringList captions{name, name.section(QLatin1Char(' '), -1)};
+      const QString last = name.section(QLatin1Char(' '), -1);
+      QStringList captions{name, last, last.left(4), last.left(2)};
       if (span.ends < day.ends) captions.prepend(words.Word("Until").arg(name, words.TimeAlone(span.ends)));
       const QString range = words.Range(span.begins, span.ends, day.date);
       AddBar(lane, span.begins, span.ends, captions, QStringLiteral("%1 %2, %3").arg(head, name, range), Tone::Plain);
@@ -102,7 +103,8 @@ class Filler {
         if (period.IsGood() != good) continue;
         const QString name = words.PeriodName(period.kind), remark = period.setAside ? words.Word("AbhijitSetAside") : verdict;
         const Tone tone = period.setAside ? Tone::Plain : good ? Tone::Good : Tone::Bad;
-        AddBar(lane, period.begins, period.ends, {name, words.PeriodShort(period.kind)},
+        const QString brief = words.PeriodShort(period.kind);
+        AddBar(lane, period.begins, period.ends, {name, brief, brief.left(2), brief.left(1)},
                QStringLiteral("%1 %2, %3").arg(name, words.Range(period.begins, period.ends, day.date), remark), tone);
         page.periods.push_back({{}, name, Exact(period.begins), Exact(period.ends), remark, tone, IsNow(period.begins, period.ends)});
       }
@@ -133,7 +135,7 @@ class Filler {
     for (const DayPart &part : day.chogadiyas) {
       const bool good = Periods::IsGoodChogadiya(part.type);
       const QString name = words.Chogadiya(part.type);
-      AddBar(chogadiyas, part.begins, part.ends, {name},
+      AddBar(chogadiyas, part.begins, part.ends, {name, name.left(2), name.left(1)},
              QStringLiteral("%1 %2, %3").arg(name, words.Range(part.begins, part.ends, day.date), words.Word(good ? "Good" : "Bad")),
              good ? Tone::Good : Tone::Bad);
     }

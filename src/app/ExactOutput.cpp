@@ -29,11 +29,30 @@ QString Line(const QString &text) {
   return line + QLatin1Char('\n');
 }
 
+// Broken between words, so that no line is wider than a terminal.
+QString Paragraph(const QString &text) {
+  constexpr int width = 78;
+  QString lines, line;
+  for (const QString &word : text.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+    if (!line.isEmpty() && line.size() + 1 + word.size() > width) {
+      lines += Line(line);
+      line.clear();
+    }
+    line += (line.isEmpty() ? QString() : QStringLiteral(" ")) + word;
+  }
+  return lines + Line(line);
+}
+
+// A limb's remark takes a line of its own.
 QString Rows(const std::vector<ExactDayPage::Row> &rows, bool withHeads) {
+  constexpr int head = 11, name = 20, time = 16;
   QString text;
-  for (const ExactDayPage::Row &row : rows)
-    text += Line((withHeads ? row.head.leftJustified(11) : QString()) + row.name.leftJustified(20) +
-                 (row.begins.isEmpty() ? QString() : row.begins.leftJustified(14)) + row.ends.leftJustified(14) + row.remark);
+  for (const ExactDayPage::Row &row : rows) {
+    const QString times = (row.begins.isEmpty() ? QString() : row.begins.leftJustified(time)) + row.ends.leftJustified(time);
+    text += Line((withHeads ? row.head.leftJustified(head) : QString()) + row.name.leftJustified(name) + times +
+                 (withHeads ? QString() : row.remark));
+    if (withHeads && !row.remark.isEmpty()) text += Line(QString(head + 2, QLatin1Char(' ')) + row.remark);
+  }
   return text;
 }
 
@@ -99,7 +118,7 @@ namespace ExactOutput {
 
 QString Text(const clsPlanets &todayChart) {
   const ExactDayPage page = FillExactDay(todayChart);
-  QString text = page.title + QLatin1Char('\n') + Line(page.lblExactDesc) + QLatin1Char('\n');
+  QString text = page.title + QLatin1Char('\n') + Paragraph(page.lblExactDesc) + QLatin1Char('\n');
   for (const ExactDayPage::Fact &fact : page.facts) text += Line(fact.head.leftJustified(28) + fact.value);
   const auto title = [&](const char *key) { return Rule(todayChart.GetHeadValue(1, QLatin1String(key), QStringLiteral("Exact"))); };
   text += title("LimbHead") + Rows(page.limbs, true);
@@ -177,7 +196,7 @@ QJsonObject Json(const clsPlanets &todayChart) {
 
 QString MonthText(const clsPlanets &todayChart, const QDate &month) {
   const MonthPage page = FillMonth(todayChart, month.year(), month.month());
-  QString text = page.title + QLatin1Char('\n') + Line(page.subtitle) + QLatin1Char('\n');
+  QString text = page.title + QLatin1Char('\n') + Paragraph(page.subtitle) + QLatin1Char('\n');
   int column = page.firstColumn;
   for (const MonthPage::Cell &cell : page.cells) {
     const QString weekday = page.weekdays[column++ % 7].left(3);

@@ -6,12 +6,16 @@
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QDesktopServices>
+#include <QDir>
+#include <QFileDialog>
 #include <QFrame>
 #include <QGridLayout>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QShortcut>
+#include <QStandardPaths>
 #include <array>
 
 #include "analysis/NowCardPage.h"
@@ -51,11 +55,15 @@
 #include "content/pages/UpagrahasView.h"
 #include "content/pages/VakyaView.h"
 #include "content/pages/VargasView.h"
+#include "persons/PlacesUpgrade.h"
+#include "persons/frmEditLongLat.h"
+#include "persons/frmManageUsers.h"
 #include "persons/frmPeople.h"
 #include "platform/Errors.h"
 #include "platform/Notices.h"
 #include "platform/StoreKeeper.h"
 #include "reports/DailyReport.h"
+#include "reports/PageExport.h"
 #include "reports/frmDayPrint.h"
 #include "reports/frmPratyan.h"
 
@@ -152,6 +160,9 @@ frmMain::frmMain(AppPaths applicationPaths, UserSettings &userSettings, MessageB
   clock = [] { return QDateTime(QDate::currentDate(), QTime::currentTime(), Qt::UTC); };
   endProgram = [] { QCoreApplication::exit(0); };
   openAddress = [](const QUrl &address) { QDesktopServices::openUrl(address); };
+  chooseFile = [this](const QString &suggested) {
+    return QFileDialog::getSaveFileName(this, tr("Save the page as PDF"), suggested, tr("PDF documents (*.pdf)"));
+  };
 
   auto *central = new QWidget(this);
   auto *rows = new QVBoxLayout(central);
@@ -247,6 +258,17 @@ void frmMain::MakeHeader() {
   titleRow->addWidget(back);
   titleRow->addWidget(lblMainChartName);
   titleRow->addWidget(lblHint, 1);
+  auto *pdf = new ImageButton(header);
+  pdf->setObjectName("flpPdf");
+  pdf->SetNormalPic(Skin::Picture(QStringLiteral("flpPdf")));
+  pdf->SetHoverPic(Skin::Picture(QStringLiteral("flpPdf"), Skin::State::Hover));
+  pdf->SetDownPic(Skin::Picture(QStringLiteral("flpPdf"), Skin::State::Down));
+  pdf->setText(tr("PDF"));
+  pdf->setAccessibleName(tr("Save this page as PDF"));
+  pdf->SetToolTip(tr("Save this page as PDF (Ctrl+S)"));
+  pdf->setFixedSize(34, 34);
+  connect(pdf, &QAbstractButton::clicked, this, &frmMain::SavePageAsPdf);
+  titleRow->addWidget(pdf);
   right->addLayout(titleRow);
   row->addLayout(right, 1);
 }
@@ -259,6 +281,7 @@ void frmMain::MakeBody() {
   navigation = new NavigationColumn({{"fflpHome", tr("Home"), tr("Go to the main page")},
                                      {"flpCharts", tr("Charts"), tr("See astrological charts.")},
                                      {"flpPredictions", tr("Predictions"), tr("See predictions.")},
+                                     {"flpPerson", tr("Persons"), tr("Add and edit persons and places.")},
                                      {"flpStudy", tr("Study"), tr("See everything else the chart knows.")},
                                      {"flpPrint", tr("Print"), tr("Print analysis.")},
                                      {"flpSettings", tr("Settings"), tr("Change program settings.")},
@@ -376,6 +399,7 @@ void frmMain::MakeKeys() {
     connect(new QShortcut(sequence, this), &QShortcut::activated, this, action);
   };
   key(QKeySequence::Print, [this] { OpenPrint(); });
+  key(QKeySequence::Save, [this] { SavePageAsPdf(); });
   key(QKeySequence(Qt::Key_F1), [this] { OpenHelp(); });
   key(QKeySequence(Qt::ALT | Qt::Key_Left), [this] { pages->GoBack(); });
   key(QKeySequence(Qt::Key_F5), [this] { pages->ShowAgain(); });
@@ -428,6 +452,12 @@ void frmMain::OpenDatabases() {
   SelvaniDailyMod::Stores stores;
   stores.personDb = OpenStore(paths.RecosPath());
   stores.dailyDb = OpenStore(paths.DailyPath());
+  try {
+    if (stores.personDb) PlacesUpgrade::Apply(*stores.personDb, paths.Ephe(QStringLiteral("COMMON/PLACES.DAT")));
+  } catch (const Error &error) {
+    // The places of an earlier version go on serving.
+    Notices::Show({Notice::Kind::Warning, QString(), error.Sentence()});
+  }
   session = std::make_unique<SelvaniDailyMod>(settings, stores, [this](const QString &name) {
     try {
       ini.WriteIniString(QStringLiteral("LastPerson"), name);
@@ -540,6 +570,7 @@ void frmMain::OnNavigation(const QString &name) {
   if (name == QLatin1String("fflpHome")) pages->ShowPage(OverviewPageNumber);
   if (name == QLatin1String("flpCharts")) pages->ShowPage(ChartListPage);
   if (name == QLatin1String("flpPredictions")) pages->ShowPage(PredictionListPage);
+  if (name == QLatin1String("flpPerson")) OpenPersonManager();
   if (name == QLatin1String("flpStudy")) pages->ShowPage(contentManager::StudyListPage);
   if (name == QLatin1String("flpCredits")) pages->ShowPage(CreditsPage);
   if (name == QLatin1String("flpSettings")) OpenSettings();
@@ -555,12 +586,47 @@ void frmMain::OpenPeople() {
     return;
   }
   frmPeople people(this);
-  people.SetManageVisible(false);
+  connect(&people, &frmPeople::ManagePersons, this, &frmMain::OpenPersonManager, Qt::QueuedConnection);
   people.Fill(*session->OpenStores().personDb);
   people.SetCurrent(session->BirthChart().clsPerson().Name());
   connect(&people, &frmPeople::Chosen, this, &frmMain::ChangePerson);
   people.OpenBelow(*personCard);
   people.exec();
+}
+
+// The manager's current person becomes the session's; the moment of the former session is kept.
+void frmMain::OpenPersonManager() {
+  const std::shared_ptr<Database> &persons = session->OpenStores().personDb;
+  if (!persons) {
+    Notices::Show({Notice::Kind::Warning, QString(), tr("The store of persons is not open, so there is nobody to edit.")});
+    return;
+  }
+  try {
+    frmManageUsers manager(persons, paths.DailyPath(), this);
+    manager.ChoosePerson(session->BirthChart().clsPerson().Name());
+    connect(&manager, &frmManageUsers::CityListWanted, this, &frmMain::OpenOptions);
+    connect(&manager, &frmManageUsers::Closed, this, [this](const QString &name) {
+      session->LoadPerson(name);
+      session->BuildAnalysis(session->AnalysisMoment());
+      ShowPersonHeader();
+      pages->ShowAgain();
+    });
+    manager.exec();
+  } catch (const Error &error) {
+    Notices::Show({Notice::Kind::Warning, QString(), error.Sentence()});
+  }
+}
+
+void frmMain::OpenOptions() {
+  const std::shared_ptr<Database> &persons = session->OpenStores().personDb;
+  if (!persons) return;
+  frmEditLongLat options(persons, settings, ini, this);
+  connect(&options, &frmEditLongLat::CalculationChanged, this, [this] {
+    SelectLastPerson();
+    ChangeMoment(session->AnalysisMoment());
+    ShowPersonHeader();
+  });
+  options.exec();
 }
 
 void frmMain::OpenDate() {
@@ -585,6 +651,20 @@ void frmMain::OpenPrint() {
   frmDayPrint topics(report, this);
   topics.SetProgress([this](frmDayPrint::Target target) { return std::make_unique<StatusProgress>(target, this); });
   topics.exec();
+}
+
+void frmMain::SavePageAsPdf() {
+  QString name = QStringLiteral("%1 %2.pdf").arg(session->BirthChart().clsPerson().Name(), lblMainChartName->text());
+  name.replace(QRegularExpression(QStringLiteral("[\\\\/:*?\"<>|]")), QStringLiteral("-"));
+  const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  const QString file = chooseFile(QDir(folder).filePath(name));
+  if (file.isEmpty()) return;
+  try {
+    PageExport::SavePdf(*pages->CurrentWidget(), file, session->BirthChart().clsPerson().Name(), Maker::WebAddress);
+    lblHint->setText(tr("The page is saved as %1").arg(QDir::toNativeSeparators(file)));
+  } catch (const Error &error) {
+    Notices::Show({Notice::Kind::Warning, Maker::Title, error.Sentence()});
+  }
 }
 
 void frmMain::OpenDashaTree() {

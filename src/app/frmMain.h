@@ -44,6 +44,8 @@ class frmMain : public QMainWindow {
   void SetClock(std::function<QDateTime()> now) { clock = std::move(now); }
   // What ends the program after the exit question; the application's quit when it is not set.
   void SetEnd(std::function<void()> end) { endProgram = std::move(end); }
+  // Asks for the file of a page's PDF; empty for none. A file dialog when it is not set.
+  void SetFileChooser(std::function<QString(const QString &suggested)> choose) { chooseFile = std::move(choose); }
   void SetOpener(std::function<void(const QUrl &)> opener) { openAddress = std::move(opener); }
 
   static int PageOfChartList(int index);  // 0 for an index without a page
@@ -54,9 +56,12 @@ class frmMain : public QMainWindow {
 
  public slots:
   void OpenPeople();
+  void OpenPersonManager();
+  void OpenOptions();
   void OpenDate();
   void OpenSettings();
   void OpenPrint();
+  void SavePageAsPdf();
   void OpenDashaTree();
   void OpenHelp();
   void OpenWebsite();
@@ -97,6 +102,7 @@ class frmMain : public QMainWindow {
   std::function<QDateTime()> clock;
   std::function<void()> endProgram;
   std::function<void(const QUrl &)> openAddress;
+  std::function<QString(const QString &)> chooseFile;
   std::unique_ptr<SelvaniDailyMod> session;
   std::vector<LanguageRow> languages;
   SetFonts fonts;

@@ -58,8 +58,8 @@ int main(int argc, char **argv) {
   parser.process(app);
 
   try {
-    Theme::Apply(app);
     const AppPaths paths = AppPaths::Locate(parser.value(appDir));
+    Theme::Apply(app, paths.Ephe(QStringLiteral("SKIN/ctlDown.svg")));
     Skin::SetFolder(paths.Ephe(QStringLiteral("SKIN")));
     QApplication::setWindowIcon(Skin::Picture(QStringLiteral("mark")));
     MessageBoxes boxes;

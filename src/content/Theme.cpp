@@ -42,7 +42,7 @@ Theme &Chosen() {
 
 const Theme &Theme::Current() { return Chosen(); }
 
-void Theme::Apply(QApplication &application) {
+void Theme::Apply(QApplication &application, const QString &arrow) {
   const QColor window = application.palette().color(QPalette::Window);
   Chosen() = window.lightness() < 128 ? Dark() : Light();
   const Theme &theme = Current();
@@ -67,11 +67,11 @@ void Theme::Apply(QApplication &application) {
   face.setFamilies({QStringLiteral("Arial"), QStringLiteral("Liberation Sans")});
   face.setPointSizeF(10);
   QApplication::setFont(face);
-  application.setStyleSheet(theme.StyleSheet());
+  application.setStyleSheet(theme.StyleSheet(arrow));
 }
 
 // Roles of widgets are told by the dynamic property "role": card, title, head, caption, value, bad, good, primary.
-QString Theme::StyleSheet() const {
+QString Theme::StyleSheet(const QString &arrow) const {
   QString sheet = QStringLiteral(R"(
     QWidget { color: @ink; }
     QMainWindow, QDialog { background: @paper; }
@@ -147,6 +147,7 @@ QString Theme::StyleSheet() const {
                                                    {"@bad", bad},
                                                    {"@selection", selection},
                                                    {"@tint", tint}};
+  if (!arrow.isEmpty()) sheet += QStringLiteral("QComboBox::down-arrow { image: url(%1); width: 16px; height: 16px; }").arg(arrow);
   for (const auto &[role, colour] : roles) sheet.replace(QLatin1String(role), colour.name());
   return sheet;
 }

@@ -21,9 +21,10 @@ struct Theme {
   static const Theme &Current();
 
   // Chooses by the desktop's scheme and dresses the whole program.
-  static void Apply(QApplication &application);
+  // arrow: the picture file of a list's arrow; none for an empty path.
+  static void Apply(QApplication &application, const QString &arrow = QString());
 
-  QString StyleSheet() const;
+  QString StyleSheet(const QString &arrow) const;
 };
 
 // The 8 px grid: distances of the layouts, in device-independent pixels.

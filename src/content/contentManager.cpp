@@ -94,6 +94,11 @@ void contentManager::ShowPage(int page) {
   emit PageShown(page);
 }
 
+QWidget *contentManager::CurrentWidget() const {
+  const auto current = pages.find(CurrentPage);
+  return current == pages.end() ? nullptr : current->second.widget;
+}
+
 void contentManager::HideCurrentPage() {
   const auto current = pages.find(CurrentPage);
   if (current != pages.end()) current->second.widget->hide();

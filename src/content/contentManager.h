@@ -52,6 +52,7 @@ class contentManager : public QObject {
   void GoBack() { ShowPage(PreviousPage); }
 
   int Current() const { return CurrentPage; }
+  QWidget *CurrentWidget() const;  // none before the first page
   int Previous() const { return PreviousPage; }
   QString TitleOf(int page) const;
 

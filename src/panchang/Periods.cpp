@@ -105,6 +105,8 @@ std::vector<Period> Find(int weekday, const std::optional<Stretch> &nightBefore,
   add(Kind::BrahmaMuhurta, nightBefore, BrahmaMuhurta, MuhurtasOfDay);
   add(Kind::BrahmaMuhurta, night, BrahmaMuhurta, MuhurtasOfDay);
   for (const LimbSpan &nakshatra : nakshatras) addGhatis(Kind::Amrita, nakshatra, AmritaGhatis[static_cast<size_t>(nakshatra.number - 1)]);
+  std::stable_sort(periods.begin(), periods.end(),
+                   [](const Period &a, const Period &b) { return a.IsGood() != b.IsGood() ? b.IsGood() : a.begins < b.begins; });
   return periods;
 }
 

@@ -39,7 +39,8 @@ struct Stretch {
 namespace Periods {
 
 // day and night are missing where the Sun does not rise or set: what is a part of them is then left out. weekday: of the sunrise,
-// 1 Sunday to 7 Saturday. nightBefore ends with this day's sunrise. Sorted by time within each kind.
+// 1 Sunday to 7 Saturday. nightBefore ends with this day's sunrise. The bad ones come
+// first, each half by its time.
 std::vector<Period> Find(int weekday, const std::optional<Stretch> &nightBefore, const std::optional<Stretch> &day,
                          const std::optional<Stretch> &night, const std::vector<LimbSpan> &nakshatras, double begins, double ends);
 

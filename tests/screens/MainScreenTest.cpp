@@ -281,6 +281,27 @@ TEST_F(MainScreen, OffersTheKeptCopyOfADamagedStore) {
   EXPECT_NE(screen->Session().OpenStores().personDb, nullptr);
 }
 
+TEST_F(MainScreen, SavesEveryPageAsAPdf) {
+  Open();
+  QTemporaryDir folder;
+  QString suggested;
+  screen->SetFileChooser([&](const QString &name) {
+    suggested = name;
+    return folder.filePath("page.pdf");
+  });
+  for (const contentManager::Row &row : contentManager::Table()) {
+    QFile::remove(folder.filePath("page.pdf"));
+    screen->Pages().ShowPage(row.page);
+    Press("flpPdf");
+    EXPECT_GT(QFileInfo(folder.filePath("page.pdf")).size(), 1000) << row.page;
+  }
+  EXPECT_TRUE(suggested.contains("Anvik Telvar")) << suggested.toStdString();
+  screen->SetFileChooser([](const QString &) { return QString("/dev/null/page.pdf"); });
+  Press("flpPdf");
+  QApplication::processEvents();
+  EXPECT_EQ(notices.size(), 1);
+}
+
 TEST_F(MainScreen, EveryControlHasANameAndAKey) {
   Open();
   for (const contentManager::Row &row : contentManager::Table()) {

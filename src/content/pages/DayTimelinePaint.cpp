@@ -5,11 +5,18 @@
 #include <QFontMetricsF>
 #include <QPainter>
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
 // In text heights.
 constexpr double BarHeight = 1.7, LaneGap = 0.75, ApartGap = 0.5, LevelGap = 0.2, NowHeight = 1.4, HoursHeight = 1.6;
+
+using Tone = ExactDayPage::Tone;
+
+QColor InkOf(Tone tone, const PaintInks &inks) {
+  return tone == Tone::Good ? inks.good : tone == Tone::Bad ? inks.bad : tone == Tone::Light ? inks.gold : inks.maroon;
+}
 
 }  // namespace
 
@@ -73,10 +80,13 @@ void DayTimelinePaint::Paint(QPainter &painter, const QRectF &room, const PaintI
     painter.setPen(inks.ink);
     painter.drawText(QRectF(room.left(), room.top() + LaneTop(lane), headWidth, BarHeight * text), Qt::AlignLeft | Qt::AlignVCenter,
                      page.lanes[lane].head);
-    painter.setFont(small);
     for (const ExactDayPage::Bar &bar : page.lanes[lane].bars) PaintBar(painter, BarRect(scale, room, lane, bar), bar, inks);
   }
   PaintNow(painter, scale, inks);
+  painter.setFont(small);
+  for (size_t lane = 0; lane < page.lanes.size(); ++lane)
+    for (const ExactDayPage::Bar &bar : page.lanes[lane].bars)
+      PaintCaption(painter, BarRect(scale, room, lane, bar), NowAt(scale), bar, inks);
   painter.restore();
 }
 
@@ -103,25 +113,40 @@ void DayTimelinePaint::PaintHours(QPainter &painter, const QRectF &scale, const 
 }
 
 void DayTimelinePaint::PaintBar(QPainter &painter, const QRectF &at, const ExactDayPage::Bar &bar, const PaintInks &inks) const {
-  using Tone = ExactDayPage::Tone;
-  const bool good = bar.tone == Tone::Good, bad = bar.tone == Tone::Bad, light = bar.tone == Tone::Light;
-  const QColor ink = good ? inks.good : bad ? inks.bad : light ? inks.gold : inks.maroon;
-  painter.setPen(QPen(ink, text * 0.07));
-  painter.setBrush(good ? inks.goodBack : bad ? inks.badBack : inks.card);
+  painter.setPen(QPen(InkOf(bar.tone, inks), text * 0.07));
+  painter.setBrush(bar.tone == Tone::Good ? inks.goodBack : bar.tone == Tone::Bad ? inks.badBack : inks.card);
   const double inset = text * 0.035, round = std::min(text * 0.3, at.width() / 3);
   painter.drawRoundedRect(at.adjusted(inset, inset, -inset, -inset), round, round);
+}
+
+// The longest caption that fits: in the middle of the bar, or where the line of the moment would cross it, on the wider side of that.
+void DayTimelinePaint::PaintCaption(QPainter &painter, const QRectF &at, double now, const ExactDayPage::Bar &bar,
+                                    const PaintInks &inks) const {
   const QFontMetricsF metrics(small, device);
+  painter.setPen(bar.tone == Tone::Light ? inks.ink : InkOf(bar.tone, inks));
   for (const QString &caption : bar.captions) {
-    if (metrics.horizontalAdvance(caption) + text * 0.4 > at.width()) continue;
-    painter.setPen(light ? inks.ink : ink);
-    painter.drawText(at, Qt::AlignCenter, caption);
+    const double wide = metrics.horizontalAdvance(caption), edge = text * 0.1;
+    if (wide + 2 * edge > at.width()) continue;
+    QRectF place = at;
+    if (std::abs(now - at.center().x()) < wide / 2 + edge) {
+      if (now - at.left() > at.right() - now)
+        place.setRight(now);
+      else
+        place.setLeft(now);
+      if (wide + edge > place.width()) place = at;
+    }
+    painter.drawText(place, Qt::AlignCenter, caption);
     return;
   }
 }
 
+double DayTimelinePaint::NowAt(const QRectF &scale) const {
+  return page.now < 0 ? scale.left() - scale.width() : scale.left() + scale.width() * page.now / page.minutes;
+}
+
 void DayTimelinePaint::PaintNow(QPainter &painter, const QRectF &scale, const PaintInks &inks) const {
   if (page.now < 0) return;
-  const double x = scale.left() + scale.width() * page.now / page.minutes;
+  const double x = NowAt(scale);
   painter.setPen(QPen(inks.saffron, text * 0.12));
   painter.drawLine(QPointF(x, scale.top()), QPointF(x, scale.bottom()));
   const double wide = QFontMetricsF(small, device).horizontalAdvance(page.nowCaption) + text;

@@ -32,6 +32,8 @@ class DayTimelinePaint {
   void PaintGround(QPainter &painter, const QRectF &scale, const PaintInks &inks) const;
   void PaintHours(QPainter &painter, const QRectF &scale, const PaintInks &inks) const;
   void PaintBar(QPainter &painter, const QRectF &at, const ExactDayPage::Bar &bar, const PaintInks &inks) const;
+  void PaintCaption(QPainter &painter, const QRectF &at, double now, const ExactDayPage::Bar &bar, const PaintInks &inks) const;
+  double NowAt(const QRectF &scale) const;
   void PaintNow(QPainter &painter, const QRectF &scale, const PaintInks &inks) const;
 
   const ExactDayPage &page;

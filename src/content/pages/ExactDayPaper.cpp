@@ -23,6 +23,7 @@ class Sheet {
     bold.setBold(true);
     title = bold;
     title.setPointSizeF(points * 1.6);
+    FitRows(points);
     text = QFontMetricsF(font, painter.device()).height();
   }
 
@@ -37,7 +38,7 @@ class Sheet {
     if (ink) timeline.Paint(painter, QRectF(room.left(), y, room.width(), timeline.Height()), inks);
     y += timeline.Height() + text;
     Facts();
-    const double top = y, half = (room.width() - 2 * text) / 2;
+    const double top = y, half = HalfWidth();
     Rows(page.limbs, page.limbHead, room.left(), half, true);
     const double left = y;
     y = top;
@@ -78,33 +79,67 @@ class Sheet {
     y += 3.6 * text;
   }
 
+  struct Widths {
+    double head = 0, name = 0, begins = 0, ends = 0, remark = 0;
+    double Sum() const { return head + name + begins + ends + remark; }
+  };
+
+  // Columns as wide as their texts; an event's one column of times holds its reason too.
+  Widths WidthsOf(const std::vector<ExactDayPage::Row> &rows, bool withHeads) const {
+    const QFontMetricsF plain(rowFont, painter.device()), strong(rowBold, painter.device());
+    const double gap = plain.height() * 0.7;
+    Widths widths;
+    for (const ExactDayPage::Row &row : rows) {
+      if (withHeads) widths.head = std::max(widths.head, plain.horizontalAdvance(row.head) + gap);
+      widths.name = std::max(widths.name, strong.horizontalAdvance(row.name) + gap);
+      if (!row.begins.isEmpty()) widths.begins = std::max(widths.begins, plain.horizontalAdvance(row.begins) + gap);
+      widths.ends = std::max(widths.ends, plain.horizontalAdvance(row.ends) + gap);
+      if (!withHeads) widths.remark = std::max(widths.remark, plain.horizontalAdvance(row.remark));
+    }
+    return widths;
+  }
+
+  double HalfWidth() const { return (room.width() - 2 * QFontMetricsF(font, painter.device()).height()) / 2; }
+
+  void FitRows(double points) {
+    const double half = HalfWidth();
+    const auto set = [this](double size) {
+      rowFont = font;
+      rowFont.setPointSizeF(size);
+      rowBold = rowFont;
+      rowBold.setBold(true);
+    };
+    const auto widest = [this] {
+      return std::max({WidthsOf(page.limbs, true).Sum(), WidthsOf(page.periods, false).Sum(), WidthsOf(page.events, false).Sum()});
+    };
+    for (set(points); widest() > half && points > SmallestPoints; set(points)) points -= StepPoints;
+  }
+
   void Rows(const std::vector<ExactDayPage::Row> &rows, const QString &head, double x, double width, bool withHeads) {
     const double line = 1.4 * text;
+    const Widths widths = WidthsOf(rows, withHeads);
     Write(bold, inks.maroon, QRectF(x, y, width, line), head);
     y += line;
     if (ink) {
       painter.setPen(QPen(inks.gold, text * 0.08));
       painter.drawLine(QPointF(x, y), QPointF(x + width, y));
     }
-    const double heads = withHeads ? 0.19 * width : 0, time = 0.2 * width;
     for (const ExactDayPage::Row &row : rows) {
       const QColor tone = row.tone == ExactDayPage::Tone::Good ? inks.good : row.tone == ExactDayPage::Tone::Bad ? inks.bad : inks.ink;
-      if (withHeads) Write(font, inks.muted, QRectF(x, y, heads, line), row.head);
-      double name = width - heads - 2 * time;
-      if (!withHeads) name = 0.34 * width;
-      // An event is one moment, or a reason that needs the rest of the line.
-      if (row.begins.isEmpty() && row.remark.isEmpty()) {
-        Write(bold, tone, QRectF(x, y, 0.4 * width, line), row.name);
-        Write(font, inks.ink, QRectF(x + 0.4 * width, y, 0.6 * width, line), row.ends);
-      } else {
-        Write(bold, tone, QRectF(x + heads, y, name, line), row.name);
-        Write(font, inks.ink, QRectF(x + heads + name, y, time, line), row.begins);
-        Write(font, inks.ink, QRectF(x + heads + name + time, y, time, line), row.ends);
-        if (!withHeads) Write(font, tone, QRectF(x + name + 2 * time, y, width - name - 2 * time, line), row.remark);
-      }
+      double left = x;
+      const auto cell = [&](const QFont &with, const QColor &colour, double wide, const QString &words) {
+        Write(with, colour, QRectF(left, y, wide, line), words);
+        left += wide;
+      };
+      if (withHeads) cell(rowFont, inks.muted, widths.head, row.head);
+      cell(rowBold, tone, widths.name, row.name);
+      cell(rowFont, inks.ink, widths.begins, row.begins);
+      cell(rowFont, inks.ink, widths.ends, row.ends);
+      if (!withHeads) cell(rowFont, tone, x + width - left, row.remark);
       y += line;
+      // A limb's remark is too long for the half sheet, and seldom: it has a line of its own.
       if (!withHeads || row.remark.isEmpty()) continue;
-      Write(font, inks.saffron, QRectF(x + heads, y - 0.2 * text, width - heads, line), row.remark);
+      Write(rowFont, inks.saffron, QRectF(x + widths.head, y - 0.2 * text, width - widths.head, line), row.remark);
       y += line - 0.2 * text;
     }
   }
@@ -113,7 +148,7 @@ class Sheet {
   QRectF room;
   const ExactDayPage &page;
   PaintInks inks;
-  QFont font, bold, title;
+  QFont font, bold, title, rowFont, rowBold;
   double text = 0, y = 0;
   bool ink = false;
 };

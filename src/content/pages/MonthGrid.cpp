@@ -29,7 +29,7 @@ QDate MonthGrid::Chosen() const {
 }
 
 int MonthGrid::NeededHeight() const {
-  return static_cast<int>(std::ceil(MonthPaint(page, font(), const_cast<MonthGrid *>(this)).HeightFor(std::max(width(), 280))));
+  return static_cast<int>(std::ceil(MonthPaint(page, font(), const_cast<MonthGrid *>(this), std::max(width(), 280)).Height()));
 }
 
 QSize MonthGrid::sizeHint() const { return {700, NeededHeight()}; }
@@ -37,7 +37,7 @@ QSize MonthGrid::minimumSizeHint() const { return {280, 200}; }
 
 void MonthGrid::paintEvent(QPaintEvent *) {
   QPainter painter(this);
-  MonthPaint(page, font(), this).Paint(painter, rect(), PaintInks::Screen(), hasFocus() ? chosen : -1);
+  MonthPaint(page, font(), this, width()).Paint(painter, rect(), PaintInks::Screen(), hasFocus() ? chosen : -1);
 }
 
 void MonthGrid::resizeEvent(QResizeEvent *event) {
@@ -86,12 +86,12 @@ void MonthGrid::keyPressEvent(QKeyEvent *event) {
 }
 
 void MonthGrid::mousePressEvent(QMouseEvent *event) {
-  const int index = MonthPaint(page, font(), this).CellAt(rect(), event->position());
+  const int index = MonthPaint(page, font(), this, width()).CellAt(rect(), event->position());
   if (index >= 0) Choose(index);
 }
 
 void MonthGrid::mouseDoubleClickEvent(QMouseEvent *event) {
-  if (MonthPaint(page, font(), this).CellAt(rect(), event->position()) >= 0) Open();
+  if (MonthPaint(page, font(), this, width()).CellAt(rect(), event->position()) >= 0) Open();
 }
 
 void MonthGrid::focusInEvent(QFocusEvent *event) {

@@ -11,19 +11,35 @@ namespace {
 constexpr int Columns = 7;
 constexpr double Padding = 0.35;    // of a cell, in text heights
 constexpr double DateHeight = 1.3;  // the line of the date and of the Sun
-constexpr double LargestPoints = 10, SmallestPoints = 4.5, StepPoints = 0.25;
+constexpr double LargestPoints = 12, SmallestPoints = 4.5, StepPoints = 0.25;
+constexpr double SmallestWordPoints = 7;
 
 }  // namespace
 
-MonthPaint::MonthPaint(const MonthPage &monthPage, const QFont &textFont, QPaintDevice *paintDevice)
-    : page(monthPage), font(textFont), bold(textFont), date(textFont), device(paintDevice) {
+MonthPaint::MonthPaint(const MonthPage &monthPage, const QFont &textFont, QPaintDevice *paintDevice, double roomWidth)
+    : page(monthPage), font(textFont), bold(textFont), date(textFont), columnWidth(roomWidth / Columns), device(paintDevice) {
+  double points = textFont.pointSizeF() * 0.9;
+  SetPoints(points);
+  while (points > SmallestWordPoints && LongestWord() > columnWidth - 2 * Padding * text) SetPoints(points -= StepPoints);
+}
+
+void MonthPaint::SetPoints(double points) {
   font.setBold(false);
-  font.setPointSizeF(textFont.pointSizeF() * 0.9);
+  font.setPointSizeF(points);
   bold = font;
   bold.setBold(true);
-  date.setBold(true);
-  date.setPointSizeF(textFont.pointSizeF() * 1.05);
+  date = bold;
+  date.setPointSizeF(points * 1.15);
   text = QFontMetricsF(font, device).height();
+}
+
+double MonthPaint::LongestWord() const {
+  const QFontMetricsF metrics(bold, device);
+  double longest = 0;
+  for (const MonthPage::Cell &cell : page.cells)
+    for (const QString &words : {cell.tithi, cell.nakshatra, cell.marks.join(QLatin1Char(' '))})
+      for (const QString &word : words.split(QLatin1Char(' '))) longest = std::max(longest, metrics.horizontalAdvance(word));
+  return longest;
 }
 
 double MonthPaint::WrappedHeight(const QFont &with, const QString &words, double width) const {
@@ -31,7 +47,7 @@ double MonthPaint::WrappedHeight(const QFont &with, const QString &words, double
 }
 
 // The Sun stands beside the date where both fit, otherwise below it.
-double MonthPaint::CellNeed(const MonthPage::Cell &cell, double columnWidth) const {
+double MonthPaint::CellNeed(const MonthPage::Cell &cell) const {
   const double width = columnWidth - 2 * Padding * text;
   double need = (2 * Padding + DateHeight) * text;
   if (QFontMetricsF(font, device).horizontalAdvance(cell.sun) > width - 1.8 * text) need += WrappedHeight(font, cell.sun, width);
@@ -40,29 +56,28 @@ double MonthPaint::CellNeed(const MonthPage::Cell &cell, double columnWidth) con
   return need;
 }
 
-double MonthPaint::WeekNeed(int week, double columnWidth) const {
+double MonthPaint::WeekNeed(int week) const {
   double need = 4 * text;
   for (int column = 0; column < Columns; ++column) {
     const int index = week * Columns + column - page.firstColumn;
-    if (index >= 0 && index < static_cast<int>(page.cells.size()))
-      need = std::max(need, CellNeed(page.cells[static_cast<size_t>(index)], columnWidth));
+    if (index >= 0 && index < static_cast<int>(page.cells.size())) need = std::max(need, CellNeed(page.cells[static_cast<size_t>(index)]));
   }
   return need;
 }
 
-double MonthPaint::HeightFor(double width) const {
+double MonthPaint::Height() const {
   double height = HeadHeight();
-  for (int week = 0; week < page.Weeks(); ++week) height += WeekNeed(week, width / Columns);
+  for (int week = 0; week < page.Weeks(); ++week) height += WeekNeed(week);
   return height;
 }
 
 std::vector<QRectF> MonthPaint::Cells(const QRectF &room) const {
   std::vector<QRectF> cells;
   const double wide = room.width() / Columns;
-  const double spare = std::max(0.0, room.height() - HeightFor(room.width())) / std::max(1, page.Weeks());
+  const double spare = std::max(0.0, room.height() - Height()) / std::max(1, page.Weeks());
   double top = room.top() + HeadHeight();
   for (int week = 0; week < page.Weeks(); ++week) {
-    const double high = WeekNeed(week, wide) + spare;
+    const double high = WeekNeed(week) + spare;
     for (int column = 0; column < Columns; ++column) {
       const int index = week * Columns + column - page.firstColumn;
       if (index >= 0 && index < static_cast<int>(page.cells.size())) cells.emplace_back(room.left() + column * wide, top, wide, high);
@@ -148,12 +163,15 @@ void MonthPaint::PaintSheet(QPainter &painter, const QRectF &room, const MonthPa
   const double legend = QFontMetricsF(face, painter.device()).boundingRect(below, Qt::TextWordWrap, page.subtitle).height() * 1.15;
   painter.drawText(below, Qt::TextWordWrap, page.subtitle);
   below.adjust(0, legend, 0, 0);
+  // A sheet hangs on the wall for the whole month: no day of it is today.
+  MonthPage sheet = page;
+  for (MonthPage::Cell &cell : sheet.cells) cell.isToday = false;
   double points = LargestPoints;
-  const auto needed = [&] {
+  const auto paint = [&] {
     face.setPointSizeF(points);
-    return MonthPaint(page, face, painter.device()).HeightFor(below.width());
+    return MonthPaint(sheet, face, painter.device(), below.width());
   };
-  while (needed() > below.height() && points > SmallestPoints) points -= StepPoints;
-  MonthPaint(page, face, painter.device()).Paint(painter, below, inks);
+  while (paint().Height() > below.height() && points > SmallestPoints) points -= StepPoints;
+  paint().Paint(painter, below, inks);
   painter.restore();
 }

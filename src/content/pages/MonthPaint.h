@@ -15,9 +15,10 @@ class QPainter;
 // A month as a grid of seven columns, for any painter. Texts wrap in their cells; a week is as high as its fullest day needs.
 class MonthPaint {
  public:
-  MonthPaint(const MonthPage &monthPage, const QFont &textFont, QPaintDevice *paintDevice);
+  // The text is set smaller, down to 7 points, where a word would not fit into a column of this width.
+  MonthPaint(const MonthPage &monthPage, const QFont &textFont, QPaintDevice *paintDevice, double roomWidth);
 
-  double HeightFor(double width) const;
+  double Height() const;  // that the weeks need
   // chosen: index of the cell with the focus, -1 for none. Weeks share what the room has beyond their need.
   void Paint(QPainter &painter, const QRectF &room, const PaintInks &inks, int chosen = -1) const;
   // Index of the cell at a point, -1 beside them.
@@ -28,8 +29,10 @@ class MonthPaint {
 
  private:
   double HeadHeight() const { return 1.8 * text; }
-  double WeekNeed(int week, double columnWidth) const;
-  double CellNeed(const MonthPage::Cell &cell, double columnWidth) const;
+  void SetPoints(double points);
+  double LongestWord() const;
+  double WeekNeed(int week) const;
+  double CellNeed(const MonthPage::Cell &cell) const;
   std::vector<QRectF> Cells(const QRectF &room) const;
   void PaintCell(QPainter &painter, const QRectF &at, const MonthPage::Cell &cell, const PaintInks &inks) const;
   double WrappedHeight(const QFont &with, const QString &words, double width) const;
@@ -37,5 +40,6 @@ class MonthPaint {
   const MonthPage &page;
   QFont font, bold, date;
   double text = 0;
+  double columnWidth;
   QPaintDevice *device;
 };

@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+// The exact day, a month and a year of it: at most 10 ms, 300 ms and 4 s.
+#include <benchmark/benchmark.h>
+
+#include "panchang/ExactDay.h"
+
+namespace {
+
+ExactRules Agra() {
+  ExactRules rules;
+  rules.place = {27.15, 78, 0};
+  rules.zone = ExactZone(QStringLiteral("Asia/Kolkata"), 330);
+  return rules;
+}
+
+// Each round begins on another day, so that the library answers afresh.
+void ExactDays(benchmark::State &state) {
+  const ExactRules rules = Agra();
+  const int count = static_cast<int>(state.range(0));
+  QDate first(1980, 1, 1);
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(ExactDay::Days(first, count, rules));
+    first = first.addDays(count);
+  }
+}
+BENCHMARK(ExactDays)->Arg(1)->Arg(31)->Arg(366)->Unit(benchmark::kMillisecond);
+
+}  // namespace

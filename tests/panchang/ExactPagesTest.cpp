@@ -1,0 +1,223 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+// The exact day and the month as pages, texts, JSON and calendar files.
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QJsonArray>
+#include <QTemporaryDir>
+
+#include "analysis/ExactBeside.h"
+#include "analysis/ExactDayPage.h"
+#include "analysis/ExactSettings.h"
+#include "analysis/MonthIcs.h"
+#include "analysis/MonthPage.h"
+#include "analysis/SelvaniDailyMod.h"
+#include "app/ExactOutput.h"
+#include "content/Languages.h"
+#include "platform/AppPaths.h"
+#include "platform/Errors.h"
+#include "platform/Notices.h"
+
+namespace {
+
+PlaceRecord Place(const char *city, const char *gmt, int latDeg, int latMT, const char *ns, int longDeg, int longMT, const char *ew) {
+  PlaceRecord place;
+  place.City = QLatin1String(city);
+  place.Country = QStringLiteral("Nowhere");
+  place.GMTDIFF = QLatin1String(gmt);
+  place.LatDeg = latDeg;
+  place.LatMT = latMT;
+  place.TextNS = QLatin1String(ns);
+  place.LongDeg = longDeg;
+  place.LongMT = longMT;
+  place.TextEW = QLatin1String(ew);
+  return place;
+}
+
+class ExactPages : public testing::Test {
+ protected:
+  ExactPages()
+      : session(settings, {OpenLanguageDb(AppPaths(QStringLiteral(ORVANI_EPHE "/..")), QStringLiteral("ENGLISH")), nullptr, nullptr}) {}
+
+  const clsPlanets &Chart(const PlaceRecord &place, const QDateTime &moment) {
+    BirthRecord birth;
+    birth.Name = QStringLiteral("Anvik Telvar");
+    birth.Day = 23;
+    birth.Month = 7;
+    birth.Year = 1980;
+    birth.Hour = 10;
+    birth.place = place;
+    session.SetBirthPerson(birth);
+    session.BuildAnalysis(moment);
+    return session.TodayChart();
+  }
+  const clsPlanets &Agra(int hour = 10) { return Chart(Place("Agra", "+05.30", 27, 9, "N", 78, 0, "E"), Moment(2026, 11, 21, hour)); }
+  const clsPlanets &Murmansk(int month) { return Chart(Place("Murmansk", "+03.00", 68, 58, "N", 33, 5, "E"), Moment(2025, month, 15, 12)); }
+
+  static QDateTime Moment(int year, int month, int day, int hour) { return QDateTime(QDate(year, month, day), QTime(hour, 6), Qt::UTC); }
+
+  NoticeRecorder notices;  // a word that is missing is a notice
+  MemoryUserSettings settings;
+  SelvaniDailyMod session;
+};
+
+}  // namespace
+
+TEST_F(ExactPages, DrawTheDayFromSunriseToSunrise) {
+  const ExactDayPage page = FillExactDay(Agra());
+  EXPECT_EQ(page.title, "Saturday, November 21, 2026");
+  EXPECT_EQ(page.lblExactDesc, "Sunrise 6:47 to sunrise 6:47, Agra 27°09'N 78°00'E, UTC+5:30. Disc centre, Lahiri.");
+  EXPECT_NEAR(page.now, 199.5, 0.5);
+  EXPECT_EQ(page.nowCaption, "10:06");
+  ASSERT_EQ(page.lanes.size(), 9u);
+  for (const ExactDayPage::Lane &lane : page.lanes) {
+    EXPECT_FALSE(lane.bars.empty()) << lane.head.toStdString();
+    for (const ExactDayPage::Bar &bar : lane.bars) {
+      EXPECT_TRUE(bar.begins >= 0 && bar.begins < bar.ends && bar.ends <= page.minutes) << bar.spoken.toStdString();
+      EXPECT_LT(bar.level, lane.levels);
+      for (const ExactDayPage::Bar &other : lane.bars)
+        EXPECT_TRUE(&bar == &other || bar.level != other.level || bar.ends <= other.begins + 1e-3 || other.ends <= bar.begins + 1e-3)
+            << bar.spoken.toStdString() << " meets " << other.spoken.toStdString();
+    }
+  }
+  EXPECT_EQ(page.lanes[0].bars[0].captions[0], "Shukla Dvadashi to 4:57");
+  EXPECT_EQ(page.limbs[0].ends, "22 Nov 4:57:01");
+  EXPECT_EQ(page.hours.front().caption, "7:00");
+  for (const auto &[element, value] :
+       {std::pair{"lblExactAmanta", "Kartika, waxing"}, {"lblExactSamvat", "2083 and 1948"}, {"lblExactSun", "6:47 and 17:21"}}) {
+    bool found = false;
+    for (const ExactDayPage::Fact &fact : page.facts) found |= QLatin1String(fact.element) == QLatin1String(element) && fact.value == value;
+    EXPECT_TRUE(found) << element;
+  }
+  // After midnight the same day goes on.
+  const ExactDayPage late = FillExactDay(Chart(Place("Agra", "+05.30", 27, 9, "N", 78, 0, "E"), Moment(2026, 11, 22, 3)));
+  EXPECT_EQ(late.title, page.title);
+  EXPECT_NEAR(late.now, 1219.5, 0.5);
+  EXPECT_TRUE(notices.Seen().empty());
+}
+
+// A reason stands wherever there is no time.
+TEST_F(ExactPages, TellWhatDoesNotHappen) {
+  for (const auto &[month, reason, ends] : {std::tuple{12, "no sunrise: polar night", 0.0}, {6, "no sunrise: midnight sun", 1440.0}}) {
+    const ExactDayPage page = FillExactDay(Murmansk(month));
+    EXPECT_EQ(page.events[0].ends, reason);
+    EXPECT_NEAR(page.dayEnds, ends, 1e-6);
+    EXPECT_EQ(page.periods[0].remark, "none without a sunrise and a sunset");
+    for (const ExactDayPage::Row &row : page.events) EXPECT_FALSE(row.ends.isEmpty()) << row.name.toStdString();
+    for (const ExactDayPage::Fact &fact : page.facts) EXPECT_FALSE(fact.value.isEmpty()) << fact.element;
+    const QJsonObject day = ExactOutput::Json(session.TodayChart());
+    EXPECT_TRUE(day["sunrise"].isNull());
+    EXPECT_NE(day["states"].toObject()["sunrise"].toString(), "happens");
+    const MonthPage grid = FillMonth(session.TodayChart());
+    EXPECT_EQ(grid.cells[14].sun, reason);
+    const ExactBesidePage beside = ExactBeside(session.TodayChart());
+    EXPECT_EQ(beside.sunrise, reason);
+    EXPECT_FALSE(beside.rahuKaal.isEmpty());
+  }
+  EXPECT_TRUE(notices.Seen().empty());
+}
+
+TEST_F(ExactPages, StandBesideFiguresThatPartByMoreThanTenMinutes) {
+  const ExactBesidePage beside = ExactBeside(Agra());
+  EXPECT_EQ(beside.sunrise, "");
+  EXPECT_EQ(beside.rahuKaal, "");
+  EXPECT_EQ(beside.yamaghanta, "13:23 to 14:42");
+}
+
+TEST_F(ExactPages, FollowTheSettings) {
+  const auto nakshatraEnd = [&] { return FillExactDay(Agra()).limbs[2].ends; };
+  const QString lahiri = nakshatraEnd();
+  settings.SetIntValue(SettingKeys::AyanType, 3);
+  const QString krishnamurti = nakshatraEnd();
+  settings.SetIntValue(SettingKeys::AyanType, 13);
+  settings.SetValue(SettingKeys::CustAyan, QStringLiteral("23.5"));
+  const QString custom = nakshatraEnd();
+  EXPECT_TRUE(lahiri != krishnamurti && krishnamurti != custom && lahiri != custom);
+  EXPECT_DOUBLE_EQ(ExactRulesOf(session.TodayChart()).zodiac.fixedDegrees, 23.5);
+  settings.SetIntValue(SettingKeys::SunriseRule, 2);
+  EXPECT_TRUE(FillExactDay(Agra()).lblExactDesc.contains("Upper limb"));
+}
+
+TEST_F(ExactPages, ShowTheMonthAsAGridAndAsText) {
+  const MonthPage page = FillMonth(Agra());
+  EXPECT_EQ(page.title, "November 2026");
+  EXPECT_EQ(page.firstColumn, 0);
+  EXPECT_EQ(page.Weeks(), 5);
+  ASSERT_EQ(page.cells.size(), 30u);
+  EXPECT_TRUE(page.cells[20].isToday);
+  EXPECT_EQ(page.cells[20].tithi, "Shukla Dvadashi 4:57+");
+  EXPECT_EQ(page.cells[20].sun, "6:47 - 17:21");
+  EXPECT_EQ(page.cells[9].marks, QStringList{"Kartika begins"});
+  EXPECT_EQ(page.cells[15].marks, QStringList{"Sun enters Scorpio 19:43"});
+  EXPECT_EQ(page.cells[18].marks, QStringList{"Shukla Navami repeated"});
+  EXPECT_EQ(page.cells[19].marks, (QStringList{"Ekadashi", "Shukla Ekadashi skipped"}));
+  const QString text = ExactOutput::MonthText(session.TodayChart(), QDate(2026, 2, 1));
+  EXPECT_TRUE(text.startsWith("February 2026\n"));
+  EXPECT_TRUE(text.contains("28 Sat"));
+  for (const char *wrong : {"2026", "2026-13", "November", "2026-00", ""}) EXPECT_THROW(ExactOutput::ReadMonth(wrong), UsageError) << wrong;
+  EXPECT_EQ(ExactOutput::ReadMonth("2026-11"), QDate(2026, 11, 1));
+}
+
+TEST_F(ExactPages, PrintTheDay) {
+  const QString text = ExactOutput::Text(Agra());
+  for (const char *part :
+       {"Saturday, November 21, 2026", "Vikrama and Shaka samvat", "Sunrise             6:46:30", "Rahu Kaal", "Kaal 6:47 to 8:06, avoid"})
+    EXPECT_TRUE(text.contains(part)) << part << text.toStdString();
+  for (const QString &line : text.split('\n')) EXPECT_LE(line.size(), 80) << line.toStdString();
+  const QJsonObject day = ExactOutput::Json(session.TodayChart());
+  EXPECT_EQ(day["date"].toString(), "2026-11-21");
+  EXPECT_EQ(day["sunrise"].toString(), "2026-11-21T06:46:30+05:30");
+  EXPECT_EQ(day["tithi"].toArray()[0].toObject()["ends"].toString(), "2026-11-22T04:57:01+05:30");
+  EXPECT_EQ(day["chogadiya"].toArray().size(), 16);
+  EXPECT_EQ(day["hora"].toArray().size(), 24);
+}
+
+TEST_F(ExactPages, WriteCalendarFilesThatOtherProgramsRead) {
+  EXPECT_EQ(MonthIcs::Escaped("a,b;c\\d\r\ne"), "a\\,b\\;c\\\\d\\ne");
+  EXPECT_EQ(MonthIcs::Folded("short"), "short\r\n");
+  EXPECT_EQ(MonthIcs::Folded(QString(75, 'x')), QByteArray(75, 'x') + "\r\n");
+  // A letter of several bytes is never broken, and unfolding gives the text back.
+  const QString letters = QString(74, 'x') + QString(100, QChar(0x00B0));
+  QByteArray folded = MonthIcs::Folded(letters);
+  for (const QByteArray &line : folded.split('\n')) EXPECT_LE(line.size(), 76);
+  EXPECT_EQ(QString::fromUtf8(folded.replace("\r\n ", "").trimmed()), letters);
+
+  QTemporaryDir folder;
+  const QString path = folder.filePath("month.ics");
+  ExactOutput::WriteIcs(path, Agra(), QDate(2026, 11, 1));
+  QFile file(path);
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  const QByteArray text = file.readAll();
+  EXPECT_TRUE(text.startsWith("BEGIN:VCALENDAR\r\nVERSION:2.0\r\n") && text.endsWith("END:VCALENDAR\r\n"));
+  EXPECT_EQ(text.count("BEGIN:VEVENT"), text.count("END:VEVENT"));
+  EXPECT_EQ(text.count("DTSTART;VALUE=DATE:"), 30);
+  EXPECT_EQ(text.count("\n"), text.count("\r\n"));
+  EXPECT_TRUE(text.contains("DTSTART:20261116T141")) << "the Sun enters Scorpio, in universal time";
+  QStringList uids;
+  for (const QByteArray &line : text.split('\n'))
+    if (line.startsWith("UID:")) uids << QString::fromUtf8(line);
+  EXPECT_EQ(uids.removeDuplicates(), 0);
+  EXPECT_THROW(ExactOutput::WriteIcs(folder.filePath("month.ics/none.ics"), session.TodayChart(), QDate(2026, 11, 1)), StoreError);
+}
+
+// A place of the list has its summer time; a difference that its zone never has is the user's own.
+TEST_F(ExactPages, ReadTheClockOfAKnownPlace) {
+  const auto persons = Database::OpenDatabase(AppPaths(QStringLiteral(ORVANI_EPHE "/..")).RecosPath(), Database::Mode::ReadOnly);
+  SelvaniDailyMod withPlaces(settings, {session.OpenStores().words, persons, nullptr});
+  const auto rules = [&](const char *gmt) {
+    BirthRecord birth;
+    birth.Name = QStringLiteral("Asha");
+    birth.Day = birth.Month = 1;
+    birth.Year = 2000;
+    birth.place = Place("London", gmt, 51, 30, "N", 0, 7, "W");
+    birth.place.Country = QStringLiteral("United Kingdom");
+    withPlaces.SetBirthPerson(birth);
+    withPlaces.BuildAnalysis(Moment(2024, 6, 20, 12));
+    return ExactRulesOf(withPlaces.TodayChart());
+  };
+  EXPECT_EQ(rules("+00.00").zone.Name(), "Europe/London");
+  EXPECT_EQ(rules("+01.00").zone.Name(), "Europe/London");
+  EXPECT_EQ(rules("+05.30").zone.Name(), "");
+  EXPECT_NEAR(rules("+00.00").place.longitude, -7 / 60.0, 1e-9);
+}

@@ -1,0 +1,128 @@
+// SPDX-FileCopyrightText: 2026 Brivanta Works
+// SPDX-License-Identifier: AGPL-3.0-or-later
+// The exact day and the month as their users meet them.
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "analysis/SelvaniDailyMod.h"
+#include "content/Languages.h"
+#include "content/SetFonts.h"
+#include "content/pages/DayTimeline.h"
+#include "content/pages/ExactDayView.h"
+#include "content/pages/MonthGrid.h"
+#include "content/pages/MonthView.h"
+#include "platform/AppPaths.h"
+#include "platform/Notices.h"
+
+namespace {
+
+class ExactScreens : public testing::Test {
+ protected:
+  ExactScreens()
+      : paths(QStringLiteral(ORVANI_EPHE "/..")),
+        session(settings, {OpenLanguageDb(paths, QStringLiteral("ENGLISH")),
+                           Database::OpenDatabase(paths.RecosPath(), Database::Mode::ReadOnly), nullptr}) {
+    session.LoadLastPerson({});
+    session.BuildAnalysis(QDateTime(QDate(2026, 11, 21), QTime(10, 6), Qt::UTC));
+  }
+
+  void Show(PageView &view, const QSize &size) {
+    view.resize(size);
+    view.Fill(session);
+    view.ApplyFonts(SetFonts(*FindLanguage(paths, QStringLiteral("English"))));
+    view.show();
+    QTest::qWait(1);
+  }
+
+  static QByteArray Content(const QString &path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+  }
+
+  AppPaths paths;
+  MemoryUserSettings settings;
+  SelvaniDailyMod session;
+  NoticeRecorder notices;
+  QTemporaryDir folder;
+};
+
+}  // namespace
+
+TEST_F(ExactScreens, ShowTheDayAndSaveIt) {
+  ExactDayView view;
+  for (const QSize &size : {QSize(862, 618), QSize(480, 400), QSize(1500, 900)}) {
+    Show(view, size);
+    const auto *timeline = view.findChild<DayTimeline *>("picExactDay");
+    ASSERT_NE(timeline, nullptr);
+    EXPECT_LE(timeline->width(), view.width());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return timeline->height() == timeline->sizeHint().height(); }, 2000)) << timeline->height();
+    // Somewhere along the first lane the running tithi tells itself.
+    bool told = false;
+    for (int y = 0; y < timeline->height() / 4; y += 4)
+      told |= timeline->TextAt({timeline->width() / 2, y}).contains("Shukla Dvadashi, 6:32 to 22 Nov 4:57");
+    EXPECT_TRUE(told);
+    EXPECT_EQ(timeline->TextAt({2, timeline->height() - 2}), "");
+    for (const QLabel *label : view.findChildren<QLabel *>()) {
+      if (label->wordWrap()) continue;
+      EXPECT_GE(label->width(), label->sizeHint().width() - 1) << label->objectName().toStdString() << " at " << size.width();
+    }
+  }
+  EXPECT_EQ(view.findChild<QLabel *>("lblExactWeekday")->text(), "Saturday");
+  EXPECT_EQ(view.findChild<QLabel *>("lblExactName0")->text(), "Shukla Dvadashi");
+  Show(view, {862, 618});  // filled again, the tables are there once
+  EXPECT_EQ(view.findChildren<QLabel *>("lblExactName0").size(), 1);
+
+  QSignalSpy pages(&view, &PageView::GoToPage);
+  QTest::mouseClick(view.findChild<QPushButton *>("cmdExactMonth"), Qt::LeftButton);
+  EXPECT_EQ(pages.at(0).at(0).toInt(), 37);
+
+  QString path = folder.filePath("day.pdf");
+  view.SetAskFile([&](const QString &) { return path; });
+  QTest::mouseClick(view.findChild<QPushButton *>("cmdExactPdf"), Qt::LeftButton);
+  EXPECT_TRUE(Content(path).startsWith("%PDF"));
+  EXPECT_EQ(Content(path).count("/Type /Page\n"), 1);
+  EXPECT_TRUE(notices.Seen().empty());
+  path = folder.path();  // a folder is no file
+  QTest::mouseClick(view.findChild<QPushButton *>("cmdExactPdf"), Qt::LeftButton);
+  EXPECT_EQ(notices.Seen().size(), 1u);
+}
+
+TEST_F(ExactScreens, WalkThroughTheMonths) {
+  MonthView view;
+  Show(view, {862, 700});
+  auto *grid = view.findChild<MonthGrid *>("picMonth");
+  const auto *title = view.findChild<QLabel *>("lblMonthTitle");
+  EXPECT_EQ(title->text(), "November 2026");
+  EXPECT_EQ(grid->Chosen(), QDate(2026, 11, 21));
+  QSignalSpy opened(&view, &MonthView::DayChosen);
+  QTest::keyClick(grid, Qt::Key_Up);
+  QTest::keyClick(grid, Qt::Key_Right);
+  EXPECT_TRUE(grid->accessibleDescription().startsWith("Sunday 15, Shukla Shashthi"));
+  QTest::keyClick(grid, Qt::Key_Return);
+  ASSERT_EQ(opened.size(), 1);
+  EXPECT_EQ(opened.at(0).at(0).toDate(), QDate(2026, 11, 15));
+  QTest::mouseClick(grid, Qt::LeftButton, {}, QPoint(grid->width() / 14, grid->height() / 4));
+  EXPECT_EQ(grid->Chosen().dayOfWeek(), 7);
+  QTest::keyClick(grid, Qt::Key_End);
+  QTest::keyClick(grid, Qt::Key_Right);
+  EXPECT_EQ(title->text(), "December 2026");
+  QTest::keyClick(grid, Qt::Key_PageDown);
+  EXPECT_EQ(title->text(), "January 2027");
+  QTest::mouseClick(view.findChild<QPushButton *>("cmdMonthPrevious"), Qt::LeftButton);
+  EXPECT_EQ(title->text(), "December 2026");
+  Show(view, {480, 400});  // filled again, it is the month of the moment
+  EXPECT_EQ(title->text(), "November 2026");
+
+  view.SetAskFile([&](const QString &suggested) { return folder.filePath(suggested); });
+  QTest::mouseClick(view.findChild<QPushButton *>("cmdMonthPdf"), Qt::LeftButton);
+  QTest::mouseClick(view.findChild<QPushButton *>("cmdMonthIcs"), Qt::LeftButton);
+  EXPECT_EQ(Content(folder.filePath("November 2026.pdf")).count("/Type /Page\n"), 1);
+  EXPECT_TRUE(Content(folder.filePath("November 2026.ics")).startsWith("BEGIN:VCALENDAR"));
+  EXPECT_TRUE(notices.Seen().empty());
+}
