@@ -4,48 +4,77 @@
 
 #include <gtest/gtest.h>
 
+#include <QFile>
+#include <array>
+#include <functional>
 #include <map>
 #include <set>
+#include <string>
 
 using namespace DailyYogas;
 
-// How many cells of weekday by nakshatra, tithi or type hold; out of range none.
-TEST(DailyYogas, WeekdayTestsHoldInTheirCellsAlone) {
-  struct {
-    const char *name;
-    bool (*holds)(int weekday, int number);
-    int cells;
-  } const tests[] = {{"amrit siddhi", IsAmritSiddhi, 7},
-                     {"yamghant", IsYamghant, 7},
-                     {"dagdha nakshatra", IsDagdhaNakshatra, 7},
-                     {"utpaat", IsUtpaat, 7},
-                     {"mrityu", IsMrityuNak, 7},
-                     {"kaan", IsKaan, 7},
-                     {"siddhi", IsSiddhi, 7},
-                     {"krakach", IsKrakach, 14},
-                     {"hutashan", IsHutashan, 14},
-                     {"adham", IsAdham, 15},
-                     {"visha", IsVisha, 14},
-                     {"samvartak", IsSamvartak, 2},
-                     {"dagdha", IsDagdha, 14},
-                     {"mrityu tithi", IsMrityuTithi, 7},
-                     {"siddhi tithi", IsSiddhiTithi, 5}};
-  for (const auto &test : tests) {
-    int cells = 0;
-    for (int weekday = -1; weekday <= 9; ++weekday)
-      for (int number = -1; number <= 70; ++number) {
-        cells += test.holds(weekday, number);
-        EXPECT_FALSE((weekday < 1 || weekday > 7 || number < 1) && test.holds(weekday, number)) << test.name << weekday << " " << number;
-      }
-    EXPECT_EQ(cells, test.cells) << test.name;
+namespace {
+
+struct TableTest {
+  const char *name;
+  std::function<bool(int, int, int)> holds;
+  int arguments;
+};
+
+std::vector<TableTest> TableTests() {
+  const auto two = [](const char *name, bool (*test)(int, int)) {
+    return TableTest{name, [test](int a, int b, int) { return test(a, b); }, 2};
+  };
+  const auto three = [](const char *name, bool (*test)(int, int, int)) { return TableTest{name, test, 3}; };
+  return {two("IsAmritSiddhi", IsAmritSiddhi),
+          two("IsYamghant", IsYamghant),
+          two("IsDagdhaNakshatra", IsDagdhaNakshatra),
+          two("IsUtpaat", IsUtpaat),
+          two("IsMrityuNak", IsMrityuNak),
+          two("IsKaan", IsKaan),
+          two("IsSiddhi", IsSiddhi),
+          two("IsKrakach", IsKrakach),
+          two("IsHutashan", IsHutashan),
+          two("IsAdham", IsAdham),
+          two("IsVisha", IsVisha),
+          two("IsSamvartak", IsSamvartak),
+          two("IsDagdha", IsDagdha),
+          two("IsShunyaTithi", IsShunyaTithi),
+          two("IsShunyaNakshatra", IsShunyaNakshatra),
+          two("IsMrityuTithi", IsMrityuTithi),
+          two("IsAmritTithi", IsAmritTithi),
+          two("IsSiddhiTithi", IsSiddhiTithi),
+          three("IsVajra", IsVajra),
+          three("IsDwipushkar", IsDwipushkar),
+          three("IsTripushkar", IsTripushkar),
+          two("IsTithiNakshatropann", IsTithiNakshatropann),
+          two("IsShunyaRashi", IsShunyaRashi),
+          two("IsDagdhaLagna", IsDagdhaLagna)};
+}
+
+}  // namespace
+
+// Each test over its whole domain and beyond: it holds for the listed arguments and for nothing else.
+TEST(DailyYogas, HoldForTheListedArgumentsAlone) {
+  QFile file(QStringLiteral(AUTHORITIES "/yogas.tsv"));
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  std::map<std::string, std::set<std::array<int, 3>>> listed;
+  for (const QString &line : QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts)) {
+    if (line.startsWith('#')) continue;
+    const QStringList columns = line.split('\t');
+    listed[columns[0].toStdString()].insert({columns[1].toInt(), columns[2].toInt(), columns.value(3).toInt()});
   }
-  for (int weekday = 1; weekday <= 7; ++weekday)
-    for (int number = 1; number <= 30; ++number) {
-      // Krakach is the day whose weekday and tithi add up to 13; Amrit Siddhi with its own tithi makes Vajra.
-      EXPECT_EQ(IsKrakach(weekday, number), weekday + (number - 1) % 15 + 1 == 13) << weekday << " " << number;
-      EXPECT_FALSE(IsKaan(2, number) && number <= 27) << number;
-      EXPECT_TRUE(!IsUtpaat(weekday, number) || IsMrityuNak(weekday, number % 27 + 1)) << weekday;
-    }
+  const std::vector<TableTest> tests = TableTests();
+  EXPECT_EQ(listed.size(), tests.size());
+  for (const TableTest &test : tests) {
+    std::set<std::array<int, 3>> holding;
+    const int thirdLow = test.arguments == 3 ? -1 : 0, thirdHigh = test.arguments == 3 ? 29 : 0;
+    for (int a = -1; a <= 32; ++a)
+      for (int b = -1; b <= 32; ++b)
+        for (int c = thirdLow; c <= thirdHigh; ++c)
+          if (test.holds(a, b, c)) holding.insert({a, b, c});
+    EXPECT_EQ(holding, listed[test.name]) << test.name;
+  }
 }
 
 TEST(DailyYogas, CellsThatPartFromTheirPattern) {
