@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QProcess>
+#include <QTemporaryDir>
 
 namespace {
 
@@ -22,6 +23,15 @@ void DailyJsonAsAProcess(benchmark::State &state) {
   state.counters["peak_MiB"] = static_cast<double>(children.ru_maxrss) / 1024;
 }
 BENCHMARK(DailyJsonAsAProcess)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+void DailyPdfAsAProcess(benchmark::State &state) {
+  const QTemporaryDir folder;
+  for (auto _ : state) {
+    if (QProcess::execute(QStringLiteral(ORVANI_DAILY), {QStringLiteral("--pdf"), folder.filePath(QStringLiteral("day.pdf"))}) != 0)
+      state.SkipWithError("orvani-daily failed");
+  }
+}
+BENCHMARK(DailyPdfAsAProcess)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 }  // namespace
 

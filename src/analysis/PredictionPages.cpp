@@ -53,12 +53,20 @@ QString FinanceText(const clsPlanets &today, int weekday, int sign) {
 }
 
 QString TithiText(const clsPlanets &today, int tithi) { return Fetch(today, PredictionKeys::TithiKey(tithi)); }
-QString WeekdayText(const clsPlanets &today, int weekday) { return Fetch(today, PredictionKeys::WeekdayKey(weekday)); }
 QString NakshatraText(const clsPlanets &today, int nakshatra) { return Fetch(today, PredictionKeys::NakshatraKey(nakshatra)); }
 
-QString SuryaYogaText(const clsPlanets &today, int yoga) {
+QString WeekdayText(const clsPlanets &today, int weekday, const PrintMyText *printing) {
+  const QString text = Fetch(today, PredictionKeys::WeekdayKey(weekday));
+  if (printing) (*printing)(text, false);
+  return text;
+}
+
+QString SuryaYogaText(const clsPlanets &today, int yoga, const PrintMyText *printing) {
   const std::optional<PredictionKeys::Key> key = PredictionKeys::SuryaYogaKey(yoga);
-  return key ? Fetch(today, *key) : QString();
+  if (!key) return {};
+  const QString text = Fetch(today, *key);
+  if (printing) (*printing)(text, false);
+  return text;
 }
 
 QString MoonTransitText(const clsPlanets &birthChart, const clsPlanets &todayChart) {
@@ -66,12 +74,14 @@ QString MoonTransitText(const clsPlanets &birthChart, const clsPlanets &todayCha
   return Fetch(todayChart, *key);
 }
 
-PredictionPage ShowYogas(const clsPlanets &todayChart) {
+PredictionPage ShowYogas(const clsPlanets &todayChart, const PrintMyText *printing) {
   PredictionPage page;
   for (const QString &head : DailyYogas::HeadsThatHold(todayChart)) {
     page.AppendHead(todayChart.GetHeadValue(11, head, QStringLiteral("Yoganame")));
     page.AppendBody(todayChart.GetHeadValue(11, head, QStringLiteral("MuhuYoga")));
   }
+  if (printing)
+    for (const PredictionPage::Line &line : page.lines) (*printing)(line.text, line.isHead);
   return page;
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QString>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -34,17 +35,21 @@ const std::vector<PredictionFamily> &PredictionFamilies();
 // 27 nakshatra, 28 weekday. None for another page and for a yoga number without a key.
 std::optional<PredictionKeys::Key> PredictionKeyOf(int page, const clsPlanets &birthChart, const clsPlanets &todayChart);
 
+// Takes a text to the paper as well.
+using PrintMyText = std::function<void(const QString &text, bool bold)>;
+
+// The texts that take `printing` hand the same text to it, where it is given.
 QString JourneyText(const clsPlanets &today, int weekday, int element);
 QString RashifalaText(const clsPlanets &today, int birthSign, int todaySign);
 QString FinanceText(const clsPlanets &today, int weekday, int sign);
 QString TithiText(const clsPlanets &today, int tithi);
-QString WeekdayText(const clsPlanets &today, int weekday);
+QString WeekdayText(const clsPlanets &today, int weekday, const PrintMyText *printing = nullptr);
 QString NakshatraText(const clsPlanets &today, int nakshatra);
-QString SuryaYogaText(const clsPlanets &today, int yoga);  // empty outside 1 to 27
+QString SuryaYogaText(const clsPlanets &today, int yoga, const PrintMyText *printing = nullptr);  // empty outside 1 to 27, nothing printed
 QString MoonTransitText(const clsPlanets &birthChart, const clsPlanets &todayChart);
 
-// A title and a paragraph for each muhurtha yoga that holds, in their order; nothing where none holds.
-PredictionPage ShowYogas(const clsPlanets &todayChart);
+// A title and a paragraph for each muhurtha yoga that holds, in their order; nothing where none holds. Titles print bold.
+PredictionPage ShowYogas(const clsPlanets &todayChart, const PrintMyText *printing = nullptr);
 
 // The page as the screen shows it; 23 is the yogas.
 PredictionPage FillPredictionPage(int page, const clsPlanets &birthChart, const clsPlanets &todayChart);

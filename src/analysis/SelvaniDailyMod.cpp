@@ -65,7 +65,11 @@ bool SelvaniDailyMod::LoadPerson(const QString &name) {
   if (found.RecordCount() == 0) return false;
   found.MoveFirst();
   const BirthRecord record = ReadBirth(found);
-  SetBirthPerson(record);
+  try {
+    SetBirthPerson(record);
+  } catch (const ConversionError &error) {
+    throw ConversionError(QStringLiteral("The birth of '%1' cannot be calculated. %2").arg(record.Name.trimmed(), error.Sentence()));
+  }
   if (remember) remember(record.Name);
   return true;
 }
@@ -102,7 +106,13 @@ std::optional<PlaceRecord> SelvaniDailyMod::StoredResidence(const QString &name)
   Recordset found = stores.dailyDb->OpenRecordset(QStringLiteral("SELECT * FROM PERSON WHERE NAME = ?"), {name});
   if (found.RecordCount() == 0) return std::nullopt;
   found.MoveFirst();
-  return ReadPlace(found);
+  PlaceRecord place = ReadPlace(found);
+  try {
+    DecimalGmtDiff(place.GMTDIFF);
+  } catch (const ConversionError &error) {
+    throw StoreError(QStringLiteral("The residence of '%1' cannot be used. %2").arg(name, error.Sentence()));
+  }
+  return place;
 }
 
 QDateTime SelvaniDailyMod::BuildAnalysis(const QDateTime &moment) {

@@ -8,6 +8,7 @@
 
 #include "analysis/PredictionPages.h"
 #include "analysis/SelvaniDailyMod.h"
+#include "app/ExactOutput.h"
 #include "app/StudyJson.h"
 #include "panchang/DailyYogas.h"
 
@@ -115,6 +116,16 @@ QJsonObject OverviewObject(SelvaniDailyMod &session) {
   return overview;
 }
 
+// The muhurtha yogas that hold, with their paragraphs.
+QJsonArray MuhurthaArray(const clsPlanets &today) {
+  QJsonArray yogas;
+  for (const QString &head : DailyYogas::HeadsThatHold(today))
+    yogas.append(QJsonObject{{"key", head},
+                             {"title", today.GetHeadValue(11, head, QStringLiteral("Yoganame"))},
+                             {"text", today.GetHeadValue(11, head, QStringLiteral("MuhuYoga"))}});
+  return yogas;
+}
+
 // The day's paragraphs, family by family; a family that asks nothing of this day is left out.
 QJsonObject TextsObject(const clsPlanets &birth, const clsPlanets &today) {
   QJsonObject texts;
@@ -124,6 +135,7 @@ QJsonObject TextsObject(const clsPlanets &birth, const clsPlanets &today) {
     const QString text = today.GetHeadValue(key->kind, key->head, key->category);
     texts.insert(QLatin1String(family.name), QJsonObject{{"key", key->head}, {"text", text}});
   }
+  texts.insert(QStringLiteral("muhurtha"), MuhurthaArray(today));
   return texts;
 }
 
@@ -157,6 +169,7 @@ QByteArray DailyJson(SelvaniDailyMod &session) {
       {"dasha", DashaObject(session)},
       {"texts", TextsObject(session.BirthChart(), session.TodayChart())},
       {"yogas", YogasArray(session.TodayChart())},
+      {"exact", ExactOutput::Json(session.TodayChart())},
       {"scores", ScoresObject(session.BirthChart(), session.TodayChart())},
   };
   return QJsonDocument(day).toJson();

@@ -2,8 +2,12 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "app/DailyOptions.h"
 
+#include "app/ExactOutput.h"
+
 #include <QCommandLineParser>
+#include <QFileInfo>
 #include <QRegularExpression>
+#include <cmath>
 
 #include "platform/Errors.h"
 #include "platform/Numbers.h"
@@ -15,11 +19,13 @@ namespace {
 }
 
 QDateTime ReadMoment(const char *option, const QString &text) {
-  static const QRegularExpression form(QStringLiteral("^(\\d{4})-(\\d{1,2})-(\\d{1,2})[ T](\\d{1,2}):(\\d{2})$"));
+  static const QRegularExpression form(QStringLiteral("^(\\d{4,6})-(\\d{1,2})-(\\d{1,2})[ T](\\d{1,2}):(\\d{2})$"));
   constexpr const char *right = "year, month, day and time of a day that exists, as in \"1980-07-23 10:50\"";
   const QRegularExpressionMatch match = form.match(text.trimmed());
   if (!match.hasMatch()) Refuse(option, text, right);
-  const QDate date(match.captured(1).toInt(), match.captured(2).toInt(), match.captured(3).toInt());
+  const int year = match.captured(1).toInt();
+  if (year < 100 || year > 9999) Refuse(option, text, "a moment of the years 0100 to 9999, as in \"1980-07-23 10:50\"");
+  const QDate date(year, match.captured(2).toInt(), match.captured(3).toInt());
   const QTime time(match.captured(4).toInt(), match.captured(5).toInt());
   if (!date.isValid() || !time.isValid()) Refuse(option, text, right);
   return QDateTime(date, time, Qt::UTC);
@@ -56,9 +62,10 @@ int ReadChoice(const char *option, const QString &text, const QList<int> &allowe
   return number;
 }
 
-QString ReadNumber(const char *option, const QString &text, const char *right) {
+// A decimal number, as text, from -limit to limit.
+QString ReadNumber(const char *option, const QString &text, double limit, const char *right) {
   try {
-    TextToNumber(text, QLatin1String(option));
+    if (std::abs(TextToNumber(text, QLatin1String(option))) > limit) Refuse(option, text, right);
   } catch (const ConversionError &) {
     Refuse(option, text, right);
   }
@@ -97,8 +104,10 @@ std::optional<PlaceRecord> ReadPlace(const QCommandLineParser &parser, const Pla
 }
 
 DailyOptions::Form ReadForm(const QCommandLineParser &parser) {
-  constexpr std::pair<const char *, DailyOptions::Form> forms[] = {
-      {"json", DailyOptions::Form::Json}, {"read", DailyOptions::Form::Read}, {"text", DailyOptions::Form::Text}};
+  constexpr std::pair<const char *, DailyOptions::Form> forms[] = {{"json", DailyOptions::Form::Json},
+                                                                   {"read", DailyOptions::Form::Read},
+                                                                   {"text", DailyOptions::Form::Text},
+                                                                   {"exact", DailyOptions::Form::Exact}};
   QStringList given;
   DailyOptions::Form form = DailyOptions::Form::Text;
   for (const auto &[name, value] : forms) {
@@ -124,7 +133,8 @@ BirthRecord ReadBirth(const QCommandLineParser &parser) {
   record.AMPM = record.Hour >= 12 ? 2 : 1;
   record.place = *place;
   if (parser.isSet(QStringLiteral("corr")))
-    record.TimeCorr = ReadNumber("corr", parser.value(QStringLiteral("corr")), "a correction in decimal hours, as in +00.50");
+    record.TimeCorr =
+        ReadNumber("corr", parser.value(QStringLiteral("corr")), 24, "a correction in decimal hours from -24 to 24, as in +00.50");
   return record;
 }
 
@@ -138,9 +148,9 @@ DailyOptions DailyOptions::Parse(const QStringList &arguments) {
   const auto option = [&](const char *name, const char *description, const char *value = nullptr) {
     parser.addOption(QCommandLineOption(QLatin1String(name), QLatin1String(description), value ? QLatin1String(value) : QString()));
   };
-  option("list", "List the persons' names and end.");
+  option("list", "List the persons' names and end; with --json as an array.");
   option("person", "The person; the last one shown, or else the first, when left out.", "NAME");
-  option("at", "The moment, local time at the residence; now when left out.", "YYYY-MM-DD HH:MM");
+  option("at", "The moment, local time at the residence; this machine's clock when left out.", "YYYY-MM-DD HH:MM");
   option("birth", "A person given here: the birth, local time. Needs --lat, --long and --gmt.", "YYYY-MM-DD HH:MM");
   option("lat", "Latitude of the birth place, degrees.minutes.", "27.09N");
   option("long", "Longitude of the birth place, degrees.minutes.", "78.00E");
@@ -156,6 +166,9 @@ DailyOptions DailyOptions::Parse(const QStringList &arguments) {
   option("text", "Print text (the default).");
   option("json", "Print one JSON object with full-precision numbers.");
   option("read", "Print the day's texts to read.");
+  option("exact", "Print the day as a printed panchang has it, every limb to the second.");
+  option("month", "Print a month of the exact panchang in place of the day.", "YYYY-MM");
+  option("ics", "Write that month, or the day's, as a calendar file and print nothing.", "FILE");
   option("pdf", "Write the daily report to a PDF and print nothing.", "FILE");
   option("topics", "The topics of the report, parted by commas, as in FrontPage,Rashifala; all when left out.", "KEY,KEY");
   option("app-dir", "The folder that holds the data folder EPHE.", "DIR");
@@ -168,7 +181,10 @@ DailyOptions DailyOptions::Parse(const QStringList &arguments) {
                          .arg(parser.positionalArguments().first()));
 
   DailyOptions options;
+  // The usage line names the program as it was called; without its folder the line is the same on every machine.
   options.helpText = parser.helpText();
+  if (const qsizetype at = options.helpText.indexOf(arguments.first()); at >= 0)
+    options.helpText.replace(at, arguments.first().size(), QFileInfo(arguments.first()).fileName());
   if (parser.isSet(QStringLiteral("help"))) {
     options.action = Action::Help;
     return options;
@@ -183,6 +199,10 @@ DailyOptions DailyOptions::Parse(const QStringList &arguments) {
   if (parser.isSet(QStringLiteral("app-dir")) && options.appDir.trimmed().isEmpty())
     Refuse("app-dir", options.appDir, "the folder that holds the data folder EPHE");
 
+  if (parser.isSet(QStringLiteral("month"))) options.month = ExactOutput::ReadMonth(parser.value(QStringLiteral("month")));
+  options.icsFile = parser.value(QStringLiteral("ics"));
+  if (parser.isSet(QStringLiteral("ics")) && options.icsFile.trimmed().isEmpty())
+    Refuse("ics", options.icsFile, "the file to write, as in month.ics");
   options.pdfFile = parser.value(QStringLiteral("pdf"));
   if (parser.isSet(QStringLiteral("pdf")) && options.pdfFile.trimmed().isEmpty())
     Refuse("pdf", options.pdfFile, "the file to write, as in day.pdf");
@@ -207,7 +227,8 @@ DailyOptions DailyOptions::Parse(const QStringList &arguments) {
     options.ayanType = ReadChoice("ayan", parser.value(QStringLiteral("ayan")), {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 15},
                                   "a number from 1 to 13, or 15, as in --ayan 1 for Lahiri");
   if (parser.isSet(QStringLiteral("custom-ayan"))) {
-    options.customAyan = ReadNumber("custom-ayan", parser.value(QStringLiteral("custom-ayan")), "decimal degrees, as in 23.50");
+    options.customAyan =
+        ReadNumber("custom-ayan", parser.value(QStringLiteral("custom-ayan")), 360, "decimal degrees from -360 to 360, as in 23.50");
     if (options.ayanType.value_or(13) != 13)
       throw UsageError(
           QStringLiteral("--custom-ayan goes with --ayan 13, and --ayan %1 was given; leave one of them out.").arg(*options.ayanType));

@@ -12,7 +12,7 @@
 // What one call of orvani-daily asks for.
 struct DailyOptions {
   enum class Action { ShowDay, ListPersons, Help, Version };
-  enum class Form { Text, Json, Read };
+  enum class Form { Text, Json, Read, Exact };
 
   Action action = Action::ShowDay;
   Form form = Form::Text;
@@ -23,6 +23,8 @@ struct DailyOptions {
   std::optional<QDateTime> at;           // local moment at the residence; none: now
   std::optional<int> ayanType, nodes, upagraha;
   std::optional<QString> customAyan;  // decimal degrees
+  std::optional<QDate> month;         // a month in place of the day
+  QString icsFile;                    // of that month, or of the day's; empty: none
   QString pdfFile;                    // empty: no report
   QStringList topics;                 // of the report, by key; empty for all
   QString helpText;

@@ -7,8 +7,14 @@
 #include <QHBoxLayout>
 #include <QStyle>
 
+#include "app/ElidedLabel.h"
 #include "chart/ImageButton.h"
 #include "content/Skin.h"
+#include "content/Theme.h"
+
+namespace {
+constexpr int LeastForHints = 330;  // pixels of the column, from which each row also shows what it does
+}
 
 NavigationColumn::NavigationColumn(const QList<Entry> &entries, QWidget *parent) : QWidget(parent) {
   auto *column = new QVBoxLayout(this);
@@ -31,8 +37,14 @@ NavigationColumn::NavigationColumn(const QList<Entry> &entries, QWidget *parent)
     button->setAccessibleDescription(entry.hint);
     button->SetToolTip(entry.hint);
     button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    button->setMinimumHeight(28);
-    button->setMaximumHeight(42);
+    button->setMinimumHeight(24);
+    button->setMaximumHeight(56);
+    auto *hint = new ElidedLabel(entry.hint, button);
+    hint->setProperty("role", "caption");
+    hint->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    hint->setAttribute(Qt::WA_TransparentForMouseEvents);  // a press on it is one on the button
+    hint->hide();
+    beside.insert(button, hint);
     button->installEventFilter(this);
     line->addWidget(button);
     column->addWidget(row);
@@ -45,13 +57,47 @@ NavigationColumn::NavigationColumn(const QList<Entry> &entries, QWidget *parent)
 
 void NavigationColumn::Mark(const char *name) {
   for (auto it = rows.cbegin(); it != rows.cend(); ++it) {
-    it.value()->setProperty("chosen", it.key() == QLatin1String(name));
+    const bool chosen = it.key() == QLatin1String(name);
+    it.value()->setProperty("chosen", chosen);
     it.value()->style()->unpolish(it.value());
     it.value()->style()->polish(it.value());
+    ImageButton *button = buttons.value(it.key());
+    QFont font = button->font();
+    font.setBold(chosen);
+    button->setFont(font);
+  }
+}
+
+void NavigationColumn::resizeEvent(QResizeEvent *event) {
+  QWidget::resizeEvent(event);
+  if (buttons.isEmpty()) return;
+  const int room = height() / static_cast<int>(buttons.size());
+  const int icon = room >= 44 ? 28 : room >= 29 ? 24 : 20;
+  const double points = room >= 44 ? 12 : room >= 34 ? 11 : 10;
+  for (ImageButton *button : buttons) {
+    button->setIconSize(QSize(icon, icon));
+    QFont font = button->font();
+    font.setPointSizeF(points);
+    button->setFont(font);
+  }
+  PlaceHints();
+}
+
+void NavigationColumn::PlaceHints() {
+  for (auto it = beside.cbegin(); it != beside.cend(); ++it) {
+    QFont bold = it.key()->font();
+    bold.setBold(true);
+    const int words = it.key()->iconSize().width() + 3 * Grid::Gap + QFontMetrics(bold).horizontalAdvance(it.key()->text());
+    QFont small = font();
+    small.setPointSizeF(9);
+    it.value()->setFont(small);
+    it.value()->setGeometry(words, 0, std::max(0, it.key()->width() - words - Grid::Gap), it.key()->height());
+    it.value()->setVisible(width() >= LeastForHints);
   }
 }
 
 bool NavigationColumn::eventFilter(QObject *watched, QEvent *event) {
+  if (event->type() == QEvent::Resize) PlaceHints();
   if (event->type() == QEvent::Enter || event->type() == QEvent::FocusIn) emit Hint(hints.value(watched));
   if (event->type() == QEvent::Leave || event->type() == QEvent::FocusOut) emit Hint({});
   return QWidget::eventFilter(watched, event);

@@ -5,6 +5,7 @@
 #include <QHash>
 #include <QWidget>
 
+class ElidedLabel;
 class ImageButton;
 class QFrame;
 
@@ -29,10 +30,14 @@ class NavigationColumn : public QWidget {
   void Hint(const QString &hint);  // of the button under the pointer or with the focus; empty when it is left
 
  protected:
+  void resizeEvent(QResizeEvent *event) override;
   bool eventFilter(QObject *watched, QEvent *event) override;
 
  private:
+  void PlaceHints();
+
   QHash<QString, ImageButton *> buttons;
   QHash<QString, QFrame *> rows;
   QHash<QObject *, QString> hints;
+  QHash<ImageButton *, ElidedLabel *> beside;  // the hint in the row itself
 };

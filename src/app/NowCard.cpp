@@ -4,6 +4,7 @@
 
 #include <QGridLayout>
 #include <QLabel>
+#include <QRegularExpression>
 
 #include "app/SkyDial.h"
 #include "content/Theme.h"
@@ -12,11 +13,11 @@ NowCard::NowCard(QWidget *parent) : QFrame(parent) {
   setObjectName("nowCard");
   setProperty("role", "card");
   setAccessibleName(tr("Now"));
-  auto *row = new QHBoxLayout(this);
-  row->setContentsMargins(12, 10, 14, 10);
-  row->setSpacing(12);
+  parts = new QBoxLayout(QBoxLayout::LeftToRight, this);
+  parts->setContentsMargins(12, 10, 14, 10);
+  parts->setSpacing(12);
   dial = new SkyDial(this);
-  row->addWidget(dial, 4);
+  parts->addWidget(dial, 4);
   auto *grid = new QGridLayout;
   grid->setHorizontalSpacing(Grid::Gap);
   grid->setVerticalSpacing(4);
@@ -47,7 +48,7 @@ NowCard::NowCard(QWidget *parent) : QFrame(parent) {
   rahuKaal = pair(tr("Rahu Kaal"), "nowRahuKaal", "bad");
   grid->setColumnStretch(1, 1);
   grid->setRowStretch(line, 1);
-  row->addLayout(grid, 5);
+  parts->addLayout(grid, 5);
 }
 
 void NowCard::Fill(const NowCardPage &page) {
@@ -55,8 +56,22 @@ void NowCard::Fill(const NowCardPage &page) {
   moon->setText(page.moon);
   nakshatra->setText(page.nakshatra);
   tithi->setText(page.tithi);
-  next->setText(page.nextChange);
+  // The day of the week has its place in the tool tip: the line has room for the name and the time.
+  static const QRegularExpression Day(QStringLiteral(" [A-Z][a-z]{2}(?= \\d+:\\d\\d$)"));
+  next->setText(QString(page.nextChange).remove(Day));
+  next->setToolTip(page.nextChange);
+  next->setAccessibleDescription(page.nextChange);
   rahuKaal->setText(page.rahuKaal);
+  // Rows that now need another line would otherwise keep the height of the former ones until the next resize.
+  parts->invalidate();
+  updateGeometry();
 }
 
-void NowCard::SetDialVisible(bool visible) { dial->setVisible(visible); }
+void NowCard::SetDial(Dial place) {
+  dial->setVisible(place != Dial::Hidden);
+  const bool above = place == Dial::Above;
+  parts->setDirection(above ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+  parts->setStretch(0, above ? 1 : 4);
+  parts->setStretch(1, above ? 0 : 5);
+  dial->setMinimumHeight(above ? 112 : 132);
+}

@@ -6,6 +6,7 @@
 
 #include "analysis/NowCardPage.h"
 
+class QBoxLayout;
 class QLabel;
 class SkyDial;
 
@@ -17,9 +18,12 @@ class NowCard : public QFrame {
   explicit NowCard(QWidget *parent = nullptr);
 
   void Fill(const NowCardPage &page);
-  void SetDialVisible(bool visible);  // the dial gives way where the screen is low
+  // The dial stands beside the rows, above them in a narrow column, and gives way where the screen is low.
+  enum class Dial { Hidden, Beside, Above };
+  void SetDial(Dial place);
 
  private:
+  QBoxLayout *parts;
   SkyDial *dial;
   QLabel *moon, *nakshatra, *tithi, *next, *rahuKaal;
 };

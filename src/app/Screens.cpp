@@ -62,9 +62,11 @@ int WriteScreens(const QString &folder, const AppPaths &paths, MessageBoxes &box
     screen.Pages().ShowPage(contentManager::HelpPage);
     writer.Write(screen, prefix + QStringLiteral("help") + suffix);
     if (size.width != 1280) continue;
-    for (const int style : {1, 2}) {
+    // The South drawing keeps the numbers of the style before it, so the North one comes between, as in most hands.
+    for (const int style : {1, 0, 2}) {
       settings.SetIntValue(SettingKeys::KundStyle, style);
       screen.Pages().ShowPage(6);
+      if (style == 0) continue;
       writer.Write(screen, QStringLiteral("page06-style%1").arg(style) + suffix);
     }
     settings.SetIntValue(SettingKeys::KundStyle, 0);

@@ -61,13 +61,33 @@ std::vector<double> SkyDial::SpreadApart(const std::vector<double> &longitudes, 
   return placed;
 }
 
+std::vector<int> SkyDial::StepsInward(const std::vector<double> &longitudes, double apart) {
+  std::vector<size_t> order(longitudes.size());
+  std::iota(order.begin(), order.end(), 0);
+  std::sort(order.begin(), order.end(), [&](size_t a, size_t b) { return longitudes[a] < longitudes[b]; });
+  std::vector<int> steps(longitudes.size(), 0);
+  for (size_t i = 0; i < order.size(); ++i) {
+    // The first step that no near neighbour has taken; the circle closes at Aries, so the last may meet the first.
+    for (int step = 0; step < 3; ++step) {
+      steps[order[i]] = step;
+      const bool taken = std::any_of(order.begin(), order.begin() + static_cast<std::ptrdiff_t>(i), [&](size_t other) {
+        const double way = std::abs(longitudes[order[i]] - longitudes[other]);
+        return steps[other] == step && std::min(way, 360 - way) < apart;
+      });
+      if (!taken) break;
+    }
+  }
+  return steps;
+}
+
 void SkyDial::paintEvent(QPaintEvent *) {
   const Theme &theme = Theme::Current();
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   const double side = std::min(width(), height()) - 2;
   const QPointF centre = QRectF(rect()).center();
-  const double outer = side / 2, ring = outer * 0.80, planets = outer * 0.66, names = outer * 0.46, hub = outer * 0.24;
+  const double outer = side / 2, ring = outer * 0.80, planets = outer * 0.73, inward = outer * 0.085, names = outer * 0.43,
+               hub = outer * 0.24;
   painter.setPen(QPen(theme.chart.line, 1));
   painter.setBrush(theme.chart.paper);
   painter.drawEllipse(centre, outer, outer);
@@ -78,7 +98,7 @@ void SkyDial::paintEvent(QPaintEvent *) {
   painter.drawEllipse(centre, hub, hub);
 
   QFont small = font();
-  small.setPixelSize(std::max(8, static_cast<int>(outer * 0.105)));
+  small.setPixelSize(std::max(9, static_cast<int>(outer * 0.105)));
   painter.setFont(small);
   for (int sign = 1; sign <= 12; ++sign) {
     painter.setPen(QPen(theme.chart.line, 1));
@@ -91,18 +111,19 @@ void SkyDial::paintEvent(QPaintEvent *) {
 
   const std::vector<double> longitudes(shown.longitudes.begin(), shown.longitudes.end());
   const std::vector<double> labels = SpreadApart(longitudes, 34);
+  const std::vector<int> steps = StepsInward(longitudes, 7);
   small.setBold(true);
   painter.setFont(small);
   for (size_t i = 0; i < longitudes.size(); ++i) {
     const bool accent = i == 0 || i == 7;  // the ascendant and the Moon
     const QColor colour = accent ? theme.chart.saffron : theme.chart.maroon;
-    const QPointF dot = OnCircle(centre, planets, longitudes[i]), label = OnCircle(centre, names, labels[i]);
+    const QPointF dot = OnCircle(centre, planets - steps[i] * inward, longitudes[i]), label = OnCircle(centre, names, labels[i]);
     painter.setPen(QPen(theme.chart.line, 1));
     painter.drawLine(dot, OnCircle(centre, names + outer * 0.09, labels[i]));
     painter.setPen(Qt::NoPen);
     painter.setBrush(colour);
     painter.drawEllipse(dot, outer * 0.035, outer * 0.035);
-    painter.setPen(accent ? theme.chart.saffron : theme.chart.ink);
+    painter.setPen(accent ? theme.chart.accent : theme.chart.ink);
     painter.drawText(QRectF(label.x() - 20, label.y() - 10, 40, 20), Qt::AlignCenter, shown.names[i].left(2));
   }
 }

@@ -15,11 +15,14 @@ class SkyDial : public QWidget {
 
   void Show(const NowCardPage &page);
   QSize sizeHint() const override { return {164, 164}; }
-  QSize minimumSizeHint() const override { return {132, 132}; }
+  QSize minimumSizeHint() const override { return {132, 112}; }
 
   // The angles at which names are written, in the order of the longitudes: as near to their planets as a distance of
   // at least 'apart' degrees allows.
   static std::vector<double> SpreadApart(const std::vector<double> &longitudes, double apart);
+
+  // How far inward a dot stands, 0 to 2 steps, so that none within 'apart' degrees of another covers it.
+  static std::vector<int> StepsInward(const std::vector<double> &longitudes, double apart);
 
  protected:
   void paintEvent(QPaintEvent *event) override;

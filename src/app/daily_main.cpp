@@ -3,9 +3,14 @@
 // orvani-daily: the day of a person without a screen, for terminals, cron and scripts.
 #include <QCoreApplication>
 #include <QDateTime>
+#include <QDir>
 #include <QGuiApplication>
+#include <QJsonArray>
+#include <QJsonDocument>
 #include <algorithm>
+#include <cerrno>
 #include <cstdio>
+#include <cstring>
 #include <memory>
 #include <string_view>
 
@@ -14,12 +19,14 @@
 #include "app/DailyJson.h"
 #include "app/DailyOptions.h"
 #include "app/DailyText.h"
+#include "app/ExactOutput.h"
 #include "app/Maker.h"
 #include "content/Languages.h"
 #include "engine/Ephemeris.h"
 #include "platform/AppPaths.h"
 #include "platform/DataFiles.h"
 #include "platform/Errors.h"
+#include "platform/Numbers.h"
 #include "platform/Recordset.h"
 #include "platform/UserSettings.h"
 #include "platform/clsIni.h"
@@ -29,7 +36,11 @@ namespace {
 
 constexpr int StoreFailed = 1, BadUse = 2;
 
-void Print(const QString &text) { std::fputs(text.toUtf8().constData(), stdout); }
+// Ends with the text handed over, so that a full disk is an error and no half answer.
+void Print(const QString &text) {
+  if (std::fputs(text.toUtf8().constData(), stdout) < 0 || std::fflush(stdout) != 0)
+    throw StoreError(QStringLiteral("The answer cannot be written (%1).").arg(QString::fromLocal8Bit(std::strerror(errno))));
+}
 
 int Fail(const Error &error, int code) {
   std::fprintf(stderr, "orvani-daily: %s\n",
@@ -46,7 +57,16 @@ QString VersionText() {
 
 LanguageRow ChosenLanguage(const AppPaths &paths, const clsIni &ini) {
   const QString english = QStringLiteral("English");
-  std::optional<LanguageRow> language = FindLanguage(paths, ini.GetIniString(QStringLiteral("SelLang"), english));
+  const QString chosen = ini.GetIniString(QStringLiteral("SelLang"), english);
+  // The screen keeps the place in its list of languages, and takes the first for a place beyond it; a hand may write the name.
+  bool isPlace = false;
+  const int place = chosen.toInt(&isPlace);
+  if (isPlace) {
+    const std::vector<LanguageRow> offered = OfferedLanguages(paths);
+    const int count = static_cast<int>(offered.size());
+    if (count > 0) return offered[static_cast<size_t>(place >= 0 && place < count ? place : 0)];
+  }
+  std::optional<LanguageRow> language = FindLanguage(paths, chosen);
   if (!language) language = FindLanguage(paths, english);
   if (!language)
     throw StoreError(QStringLiteral("The list of languages '%1' holds no English row. Please re-install.").arg(paths.LangsPath()));
@@ -54,15 +74,42 @@ LanguageRow ChosenLanguage(const AppPaths &paths, const clsIni &ini) {
 }
 
 std::shared_ptr<TextDb> OpenWords(const AppPaths &paths, const LanguageRow &language) {
-  std::shared_ptr<TextDb> words = OpenLanguageDb(paths, language.Directory);
-  if (!words) throw StoreError(QStringLiteral("The data file of the language %1 is missing. Please re-install.").arg(language.Name));
-  return words;
+  // Asked first, since opening would warn in words of its own.
+  if (!DataFiles::LanguageFileExists(paths, language.Directory))
+    throw StoreError(QStringLiteral("The data file '%1' of the language %2 is missing. Please re-install.")
+                         .arg(QDir::toNativeSeparators(paths.LanguageDataPath(language.Directory)), language.Name));
+  return OpenLanguageDb(paths, language.Directory);
 }
 
-int ListPersons(Database &persons) {
+int ListPersons(Database &persons, DailyOptions::Form form) {
   Recordset rows = persons.OpenRecordset(QStringLiteral("SELECT Name FROM Person ORDER BY Name"));
-  for (; !rows.AtEnd(); rows.MoveNext()) Print(rows.Field(QStringLiteral("Name")).toString() + QLatin1Char('\n'));
+  QStringList names;
+  for (; !rows.AtEnd(); rows.MoveNext()) names << rows.Field(QStringLiteral("Name")).toString();
+  if (form == DailyOptions::Form::Json)
+    Print(QString::fromUtf8(QJsonDocument(QJsonArray::fromStringList(names)).toJson()));
+  else if (!names.isEmpty())
+    Print(names.join(QLatin1Char('\n')) + QLatin1Char('\n'));
   return 0;
+}
+
+// A stored ayanamsha that is no number is a fault of the settings, not of the person whose chart asks for it.
+void CheckCustomAyanamsha(const UserSettings &settings, const FileUserSettings &stored) {
+  if (settings.IntValue(SettingKeys::AyanType) != 13) return;
+  try {
+    TextToNumber(settings.Value(SettingKeys::CustAyan), QStringLiteral("custom ayanamsha (CustAyan)"));
+  } catch (const ConversionError &error) {
+    throw StoreError(QStringLiteral("The settings file '%1' cannot be used. %2").arg(stored.Path(), error.Sentence()));
+  }
+}
+
+// Gives false where the list has no such person, or for an empty name no person at all. A person who is in the list and
+// cannot be calculated is a fault of the store, not of the call.
+bool LoadStored(SelvaniDailyMod &session, const QString &name, const clsIni &ini) {
+  try {
+    return name.isEmpty() ? session.LoadLastPerson(ini.GetIniString(QStringLiteral("LastPerson"), QString())) : session.LoadPerson(name);
+  } catch (const ConversionError &error) {
+    throw StoreError(error.Sentence());
+  }
 }
 
 int ShowDay(const DailyOptions &options, const AppPaths &paths, std::shared_ptr<Database> persons) {
@@ -73,6 +120,7 @@ int ShowDay(const DailyOptions &options, const AppPaths &paths, std::shared_ptr<
   if (options.customAyan) settings.SetValue(SettingKeys::CustAyan, *options.customAyan);
   if (options.nodes) settings.SetIntValue(SettingKeys::RahuKetuMode, *options.nodes);
   if (options.upagraha) settings.SetIntValue(SettingKeys::UpagrahaMode, *options.upagraha);
+  CheckCustomAyanamsha(settings, stored);
 
   const auto residences = Database::OpenDatabase(paths.DailyPath(), Database::Mode::ReadOnly);
   const LanguageRow language = ChosenLanguage(paths, ini);
@@ -82,10 +130,10 @@ int ShowDay(const DailyOptions &options, const AppPaths &paths, std::shared_ptr<
     if (options.birth) {
       session.SetBirthPerson(*options.birth);
     } else if (!options.personName.isEmpty()) {
-      if (!session.LoadPerson(options.personName))
+      if (!LoadStored(session, options.personName, ini))
         throw UsageError(
             QStringLiteral("--person '%1' is not in the list of persons; orvani-daily --list shows the names.").arg(options.personName));
-    } else if (!session.LoadLastPerson(ini.GetIniString(QStringLiteral("LastPerson"), QString()))) {
+    } else if (!LoadStored(session, QString(), ini)) {
       throw UsageError(QStringLiteral(
           "The list of persons is empty; give a birth, as in --birth \"1980-07-23 10:50\" --lat 27.09N --long 78.00E --gmt +05.30."));
     }
@@ -95,7 +143,17 @@ int ShowDay(const DailyOptions &options, const AppPaths &paths, std::shared_ptr<
       DailyReport(session, paths, language, Maker::WebAddress).SavePdf(options.pdfFile, topics);
       return 0;
     }
+    const clsPlanets &today = session.TodayChart();
+    if (!options.icsFile.isEmpty()) {
+      ExactOutput::WriteIcs(options.icsFile, today, options.month.value_or(today.clsPerson().GetBirthDate().date()));
+      return 0;
+    }
+    if (options.month) {
+      Print(ExactOutput::MonthText(today, *options.month));
+      return 0;
+    }
     switch (options.form) {
+      case DailyOptions::Form::Exact: Print(ExactOutput::Text(today)); break;
       case DailyOptions::Form::Json: Print(QString::fromUtf8(DailyJson(session))); break;
       case DailyOptions::Form::Read: Print(DailyReading(session)); break;
       case DailyOptions::Form::Text: Print(DailyText(session)); break;
@@ -109,12 +167,22 @@ int ShowDay(const DailyOptions &options, const AppPaths &paths, std::shared_ptr<
   }
 }
 
+// The folder is only read, so data that cannot be copied to the user's own folder do where they are.
+AppPaths Located(const QString &appDir) {
+  try {
+    return AppPaths::Locate(appDir, AppPaths::Access::Read);
+  } catch (const MissingFileError &error) {
+    if (appDir.isEmpty()) throw;
+    throw UsageError(error.Sentence());
+  }
+}
+
 int Run(const DailyOptions &options) {
-  const AppPaths paths = AppPaths::Locate(options.appDir);
+  const AppPaths paths = Located(options.appDir);
   DataFiles::CheckFileExists(paths, QStringLiteral("COMMON\\RECOS.Dat"));
   DataFiles::CheckDataFiles(paths);
   const auto persons = Database::OpenDatabase(paths.RecosPath(), Database::Mode::ReadOnly);
-  return options.action == DailyOptions::Action::ListPersons ? ListPersons(*persons) : ShowDay(options, paths, persons);
+  return options.action == DailyOptions::Action::ListPersons ? ListPersons(*persons, options.form) : ShowDay(options, paths, persons);
 }
 
 // Fonts need the part of Qt that draws, though no window is shown: not even a screen is needed.

@@ -30,6 +30,7 @@
 #include "app/frmDate.h"
 #include "app/frmStatus.h"
 #include "chart/ImageButton.h"
+#include "content/ShellFonts.h"
 #include "content/Skin.h"
 #include "content/Theme.h"
 #include "content/contentManager.h"
@@ -41,11 +42,14 @@
 #include "content/pages/CreditsView.h"
 #include "content/pages/DashaView.h"
 #include "content/pages/EvilMuhurthaView.h"
+#include "content/pages/ExactDayView.h"
 #include "content/pages/HelpView.h"
 #include "content/pages/HoraView.h"
 #include "content/pages/LargeChartView.h"
 #include "content/pages/ListView.h"
+#include "content/pages/MonthView.h"
 #include "content/pages/OverviewView.h"
+#include "content/pages/PageScroll.h"
 #include "content/pages/PanchangView.h"
 #include "content/pages/PlanetTableView.h"
 #include "content/pages/RichTextPage.h"
@@ -71,6 +75,8 @@ namespace {
 
 constexpr int ChartListPage = 1, PredictionListPage = 2, CreditsPage = 5, OverviewPageNumber = 18;
 
+constexpr int LeastForAbove = 740;  // inner height, pixels, that leaves room for the dial above the rows of a narrow column
+
 // Index of a list entry and the page that it goes to.
 struct ListRow {
   int index, page;
@@ -79,12 +85,12 @@ constexpr std::array<ListRow, 11> ChartListRows{
     {{0, 16}, {1, 22}, {12, 6}, {13, 11}, {14, 7}, {15, 12}, {16, 9}, {17, 10}, {18, 8}, {20, 17}, {23, 13}}};
 constexpr std::array<ListRow, 8> PredictionListRows{{{0, 28}, {1, 21}, {2, 15}, {3, 23}, {4, 25}, {5, 27}, {11, 19}, {12, 24}}};
 
-constexpr std::array<ListRow, 7> StudyListRows{{{0, 29}, {1, 30}, {2, 31}, {3, 32}, {4, 33}, {5, 34}, {6, 35}}};
+constexpr std::array<ListRow, 9> StudyListRows{{{0, 29}, {1, 30}, {2, 31}, {3, 32}, {4, 33}, {5, 34}, {6, 35}, {7, 36}, {8, 37}}};
 
 // The order in which the lists show their entries.
 constexpr std::array ChartListOrder{12, 18, 14, 16, 17, 23, 13, 15, 0, 20, 1};
 constexpr std::array PredictionListOrder{11, 0, 4, 5, 12, 3, 2, 1};
-constexpr std::array StudyListOrder{0, 1, 2, 3, 4, 5, 6};
+constexpr std::array StudyListOrder{7, 8, 0, 1, 2, 3, 4, 5, 6};
 
 template <size_t N>
 int PageOf(const std::array<ListRow, N> &rows, int index) {
@@ -173,8 +179,9 @@ frmMain::frmMain(AppPaths applicationPaths, UserSettings &userSettings, MessageB
   rows->addWidget(header);
   MakeBody();
   auto *body = new QHBoxLayout;
-  body->setContentsMargins(Grid::Margin, Grid::Margin, Grid::Margin, Grid::Margin);
-  body->setSpacing(Grid::Margin);
+  // The pages keep the ring of the focus free around their cards, so that those end level with the left column.
+  body->setContentsMargins(Grid::Margin, Grid::Margin - PageScroll::Ring, Grid::Margin - PageScroll::Ring, Grid::Margin - PageScroll::Ring);
+  body->setSpacing(Grid::Margin - PageScroll::Ring);
   body->addWidget(leftColumn);
   body->addWidget(host, 1);
   rows->addLayout(body, 1);
@@ -216,7 +223,7 @@ void frmMain::MakeHeader() {
 
   auto *right = new QVBoxLayout;
   right->setSpacing(6);
-  auto *cards = new QHBoxLayout;
+  cards = new QHBoxLayout;
   cards->setSpacing(12);
   personCard = new HeaderCard("lblPersonName", "lblBDate", "flpDropNameList", header);
   personCard->Button()->setAccessibleName(tr("Change person"));
@@ -228,12 +235,12 @@ void frmMain::MakeHeader() {
   cmbLang->setObjectName("cmbLang");
   cmbLang->setAccessibleName(tr("Language"));
   cmbLang->setToolTip(tr("Language"));
-  cmbLang->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
-  cmbLang->setMinimumWidth(86);
+  cmbLang->setProperty("role", "headercard");
+  cmbLang->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Expanding);
   connect(cmbLang, &QComboBox::activated, this, &frmMain::OnLanguageChosen);
   cards->addWidget(personCard, 5);
-  cards->addWidget(dateCard, 5);
-  cards->addWidget(cmbLang, 1);
+  cards->addWidget(dateCard, 7);
+  cards->addWidget(cmbLang);
   right->addLayout(cards, 1);
 
   auto *titleRow = new QHBoxLayout;
@@ -276,7 +283,7 @@ void frmMain::MakeHeader() {
 void frmMain::MakeBody() {
   leftColumn = new QWidget(centralWidget());
   auto *column = new QVBoxLayout(leftColumn);
-  column->setContentsMargins(0, 0, 0, 0);
+  column->setContentsMargins(0, PageScroll::Ring, 0, PageScroll::Ring);
   column->setSpacing(12);
   navigation = new NavigationColumn({{"fflpHome", tr("Home"), tr("Go to the main page")},
                                      {"flpCharts", tr("Charts"), tr("See astrological charts.")},
@@ -339,8 +346,22 @@ void frmMain::AddRichText(int page) {
                         [this](const SetFonts &f) { richText->ApplyFonts(f); }});
 }
 
+// One table serves both pages.
+void frmMain::AddPlanets() {
+  auto *planets = new PlanetTableView(host);
+  hostGrid->addWidget(planets, 0, 0);
+  for (const auto &[page, chart] : {std::pair(9, PlanetTableView::Chart::Birth), std::pair(10, PlanetTableView::Chart::Today)}) {
+    const auto fill = [this, planets, which = chart] {
+      planets->SetChart(which);
+      planets->Fill(*session);
+    };
+    pages->AddPage(page, {planets, fill, [planets](const SetFonts &f) { planets->ApplyFonts(f); }});
+  }
+}
+
 void frmMain::MakePages() {
   pages = new contentManager(*session, *lblMainChartName, this);
+  pages->SetLeaving([this] { richText->Text().Clear(); });
   pages->SetFillGuard([this] { return std::make_shared<MessageBoxes::Fill>(boxes); });
   connect(pages, &contentManager::PageShown, this, &frmMain::OnPageShown);
 
@@ -367,11 +388,17 @@ void frmMain::MakePages() {
           [this](const QDate &day) { ChangeMoment(QDateTime(day, session->AnalysisMoment().time(), Qt::UTC)); });
   AddView(34, scores);
   AddView(35, new VakyaView(host));
+  AddView(36, new ExactDayView(host));
+  auto *month = new MonthView(host);
+  connect(month, &MonthView::DayChosen, this, [this](const QDate &day) {
+    ChangeMoment(QDateTime(day, session->AnalysisMoment().time(), Qt::UTC));
+    pages->ShowPage(36);
+  });
+  AddView(37, month);
 
   AddView(CreditsPage, new CreditsView(QCoreApplication::applicationVersion(), Maker::WebAddress, host));
   AddView(contentManager::HelpPage, new HelpView(paths.Ephe(QStringLiteral("HELP/english.html")), host));
-  AddView(9, new PlanetTableView(PlanetTableView::Chart::Birth, host));
-  AddView(10, new PlanetTableView(PlanetTableView::Chart::Today, host));
+  AddPlanets();
   auto *dasha = new DashaView(host);
   dasha->SetTreeVisible(true);
   connect(dasha, &DashaView::GoToTree, this, &frmMain::OpenDashaTree);
@@ -471,10 +498,32 @@ void frmMain::OpenDatabases() {
 void frmMain::LoadLanguages() {
   languages.clear();
   cmbLang->clear();
-  for (LanguageRow &language : OfferedLanguages(paths)) {
+  std::vector<LanguageRow> offered;
+  try {
+    offered = OfferedLanguages(paths);
+  } catch (const StoreError &error) {
+    // The list is damaged, the words need not be: they serve in the sizes of the program's own screens.
+    Notices::Show({Notice::Kind::Warning, QString(), error.Sentence()});
+    LanguageRow own = ShellFonts().Language();
+    own.Name = QStringLiteral("English");
+    own.Directory = QStringLiteral("ENGLISH");
+    own.Include = true;
+    offered.push_back(own);
+  }
+  for (LanguageRow &language : offered) {
     if (language.Name != QLatin1String("English") || !language.Include) continue;
     cmbLang->addItem(language.Name);
     languages.push_back(std::move(language));
+  }
+}
+
+// A configuration file that cannot be read is told, and is as good as an empty one.
+QString frmMain::Kept(const QString &key, const QString &standard) const {
+  try {
+    return ini.GetIniString(key, standard);
+  } catch (const StoreError &error) {
+    Notices::Show({Notice::Kind::Warning, QString(), error.Sentence()});
+    return standard;
   }
 }
 
@@ -485,7 +534,7 @@ void frmMain::SelectLanguage() {
     return;
   }
   bool isIndex = false;
-  const int index = ini.GetIniString(QStringLiteral("SelLang"), QStringLiteral("0")).toInt(&isIndex);
+  const int index = Kept(QStringLiteral("SelLang"), QStringLiteral("0")).toInt(&isIndex);
   const int chosen = isIndex && index >= 0 && index < cmbLang->count() ? index : 0;
   cmbLang->setCurrentIndex(chosen);
   OnLanguageChosen(chosen);
@@ -496,9 +545,19 @@ void frmMain::OnLanguageChosen(int index) {
   const LanguageRow &language = languages[static_cast<size_t>(index)];
   fonts = SetFonts(language);
   pages->SetFontsOf(fonts);
-  const std::shared_ptr<TextDb> words = OpenLanguageDb(paths, language.Directory);
+  std::shared_ptr<TextDb> words;
+  try {
+    words = OpenLanguageDb(paths, language.Directory);
+  } catch (const StoreError &error) {
+    Notices::Show({Notice::Kind::Warning, QString(), error.Sentence()});
+  }
   if (!words) return;
-  ini.WriteIniString(QStringLiteral("SelLang"), QString::number(index));
+  try {
+    ini.WriteIniString(QStringLiteral("SelLang"), QString::number(index));
+  } catch (const StoreError &error) {
+    // The choice holds for this run.
+    Notices::Show({Notice::Kind::Warning, QString(), error.Sentence()});
+  }
   session->ChangeLanguage(words);
   if (session->HasAnalysis()) {
     ShowMoment();
@@ -508,11 +567,16 @@ void frmMain::OnLanguageChosen(int index) {
 
 void frmMain::SelectLastPerson() {
   try {
-    if (session->LoadLastPerson(ini.GetIniString(QStringLiteral("LastPerson"), QString()))) return;
+    if (session->LoadLastPerson(Kept(QStringLiteral("LastPerson"), QString()))) {
+      sampleShown = false;
+      return;
+    }
   } catch (const Error &error) {
     Notices::Show({Notice::Kind::Warning, QString(), error.Sentence()});
   }
-  if (!session->HasPerson()) session->SetBirthPerson(SamplePerson());
+  if (session->HasPerson() && !sampleShown) return;
+  sampleShown = true;
+  session->SetBirthPerson(SamplePerson());  // again after a change of settings too, which the birth chart has to follow
 }
 
 void frmMain::ChangeMouseIcons() {
@@ -530,6 +594,9 @@ void frmMain::ShowPersonHeader() {
   mainLine.setBold(true);
   personCard->Main()->setFont(mainLine);
   dateCard->Main()->setFont(mainLine);
+  QFont shortLine = fonts.SmallFont();
+  shortLine.setBold(true);
+  for (HeaderCard *card : {personCard, dateCard}) card->Main()->SetShortFont(shortLine);
   fonts.SetSmallFont(*personCard->Second());
   fonts.SetSmallFont(*dateCard->Second());
   fonts.SetSmallFont(*lblHint);
@@ -537,8 +604,13 @@ void frmMain::ShowPersonHeader() {
 }
 
 void frmMain::ShowMoment() {
-  dateCard->Main()->setText(session->NowInfo());
-  nowCard->Fill(FillNowCard(session->TodayChart()));
+  if (!session->OpenStores().words) return;  // that there are none has been told, and nothing here goes without them
+  try {
+    dateCard->Main()->setText(session->NowInfo());
+    nowCard->Fill(FillNowCard(session->TodayChart()));
+  } catch (const Error &error) {
+    Notices::Show({Notice::Kind::Warning, QString(), error.Sentence()});
+  }
 }
 
 void frmMain::ChangePerson(const QString &name) {
@@ -590,7 +662,7 @@ void frmMain::OpenPeople() {
   people.Fill(*session->OpenStores().personDb);
   people.SetCurrent(session->BirthChart().clsPerson().Name());
   connect(&people, &frmPeople::Chosen, this, &frmMain::ChangePerson);
-  people.OpenBelow(*personCard);
+  people.OpenBelow(*personCard->Button());
   people.exec();
 }
 
@@ -633,7 +705,7 @@ void frmMain::OpenDate() {
   frmDate date(clock, this);
   date.SetMoment(session->AnalysisMoment());
   connect(&date, &frmDate::Chosen, this, &frmMain::ChangeMoment);
-  date.OpenBelow(*dateCard);
+  date.OpenBelow(*dateCard->Button());
   date.exec();
 }
 
@@ -688,7 +760,11 @@ void frmMain::OnPageShown(int page) { navigation->Mark(SectionOf(page)); }
 // Closing keeps the place and only asks: the question alone ends the program.
 void frmMain::closeEvent(QCloseEvent *event) {
   event->ignore();
-  SavePosition();
+  try {
+    SavePosition();
+  } catch (const Error &error) {
+    Notices::Show({Notice::Kind::Warning, QString(), error.Sentence()});
+  }
   AskExit();
 }
 
@@ -715,7 +791,12 @@ void frmMain::PlaceContent() {
   leftColumn->setFixedWidth(std::min(left, 400));
   header->findChild<QWidget *>(QStringLiteral("brand"))->setFixedWidth(leftColumn->width());
   header->setFixedHeight(std::clamp(content.top() - 2 * Grid::Margin, 112, 160));
-  nowCard->SetDialVisible(inner.height() >= 700 && leftColumn->width() >= 330);
+  // The moment is the longer text: on a narrow screen it takes more than its half.
+  cards->setStretchFactor(dateCard, inner.width() < 1000 ? 7 : 5);
+  nowCard->SetDial(inner.height() < 700              ? NowCard::Dial::Hidden
+                   : leftColumn->width() >= 330      ? NowCard::Dial::Beside
+                   : inner.height() >= LeastForAbove ? NowCard::Dial::Above
+                                                     : NowCard::Dial::Hidden);
   if (!largeChart) return;
   centralWidget()->layout()->activate();
   const QRect inHost(host->mapFrom(centralWidget(), content.topLeft()), content.size());

@@ -21,6 +21,7 @@ class NowCard;
 class PageView;
 class QComboBox;
 class QGridLayout;
+class QHBoxLayout;
 class QLabel;
 class RichTextPage;
 class contentManager;
@@ -78,12 +79,14 @@ class frmMain : public QMainWindow {
   void MakePages();
   void MakeKeys();
   void AddView(int page, PageView *view);
+  void AddPlanets();
   void AddRichText(int page);
   void AddLargeChart(int page, int kind);
 
   void OpenDatabases();
   std::shared_ptr<Database> OpenStore(const QString &path);
   void LoadLanguages();
+  QString Kept(const QString &key, const QString &standard) const;
   void SelectLanguage();
   void OnLanguageChosen(int index);
   void SelectLastPerson();
@@ -106,9 +109,11 @@ class frmMain : public QMainWindow {
   std::unique_ptr<SelvaniDailyMod> session;
   std::vector<LanguageRow> languages;
   SetFonts fonts;
+  bool sampleShown = false;  // no stored person is to be had
 
   QWidget *header = nullptr;
   HeaderCard *personCard = nullptr, *dateCard = nullptr;
+  QHBoxLayout *cards = nullptr;
   QComboBox *cmbLang = nullptr;
   QLabel *lblMainChartName = nullptr;
   ElidedLabel *lblHint = nullptr;

@@ -114,7 +114,13 @@ void frmSplash::CheckFonts() { frmFontsError(paths, this).CheckFonts(); }
 frmSplash::Outcome frmSplash::CheckLanguages() {
   return Guard([this] {
     DataFiles::CheckFileExists(paths, paths.LangsPath());
-    DataFiles::CheckLanguages(paths);
+    try {
+      DataFiles::CheckLanguages(paths);
+    } catch (const StoreError &error) {
+      // Only a file that is not there ends the program. The main screen tells of a list that cannot be read, and goes
+      // on with the program's own language.
+      if (error.Reason() == StoreError::Kind::Missing) throw;
+    }
   });
 }
 

@@ -157,7 +157,7 @@ void ChartPainter::Paint(QPainter &painter, const ChartLayout &layout, const QRe
   }
 
   painter.setFont(NumberFont(layout, texts.numberSize));
-  painter.setPen(Or(layout.numberColor, palette_.gold));
+  painter.setPen(Or(layout.numberColor, palette_.number));
   for (size_t i = 0; i < texts.numbers.size(); ++i) {
     const auto &number = texts.numbers[i];
     if (number.text.isEmpty()) continue;
@@ -170,7 +170,7 @@ void ChartPainter::Paint(QPainter &painter, const ChartLayout &layout, const QRe
     for (const FittedText::Word &word : text.words) {
       const QFont font = measure.FontOf(text.pixelSize, word.accent);
       painter.setFont(font);
-      painter.setPen(word.accent ? palette_.saffron : Or(layout.textColor, palette_.ink));
+      painter.setPen(word.accent ? palette_.accent : Or(layout.textColor, palette_.ink));
       painter.drawText(QPointF(word.box.left(), word.box.top() + QFontMetricsF(font).ascent()), word.text);
     }
   }

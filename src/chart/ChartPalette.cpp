@@ -4,8 +4,12 @@
 
 #include <QPalette>
 
-ChartPalette ChartPalette::Light() { return {0xFBF7F0, 0xFFFDF9, 0xE4D9C8, 0x2B2320, 0x75685E, 0x7A1F2B, 0xB9540F, 0xB98A2F}; }
+ChartPalette ChartPalette::Light() {
+  return {0xFBF7F0, 0xFFFDF9, 0xE4D9C8, 0x2B2320, 0x6F635A, 0x7A1F2B, 0xB9540F, 0xB98A2F, 0x86611C, 0xA34708};
+}
 
-ChartPalette ChartPalette::Dark() { return {0x1D1817, 0x272120, 0x463B35, 0xF2E9DE, 0xB5A699, 0xC96A75, 0xF0954A, 0xD9B25F}; }
+ChartPalette ChartPalette::Dark() {
+  return {0x1D1817, 0x272120, 0x463B35, 0xF2E9DE, 0xB5A699, 0xE58F9A, 0xF0954A, 0xD9B25F, 0xD9B25F, 0xF0954A};
+}
 
 ChartPalette ChartPalette::For(const QPalette &desktop) { return desktop.color(QPalette::Window).lightness() < 128 ? Dark() : Light(); }

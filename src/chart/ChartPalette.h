@@ -15,7 +15,9 @@ struct ChartPalette {
   QColor muted;
   QColor maroon;   ///< chart lines
   QColor saffron;  ///< the one accent: the ascendant, the focus
-  QColor gold;     ///< house numbers
+  QColor gold;     ///< rules and grounds; too light for a text
+  QColor number;   ///< gold as a text: house numbers
+  QColor accent;   ///< saffron as a text, readable on a chosen row too
 
   static ChartPalette Light();
   static ChartPalette Dark();

@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <map>
 
+#include "chart/ChartPalette.h"
 #include "chart/InputCodes.h"
 
 namespace {
@@ -205,7 +206,7 @@ void ImageButton::paintEvent(QPaintEvent *) {
   const bool withText = !text().isEmpty() && (textBeside_ || shown_.isNull());
   if (withText && shown_.isNull()) {
     // Without a picture to tell the state, the ground tells it.
-    QColor ground = palette().color(QPalette::Highlight);
+    QColor ground = ChartPalette::For(palette()).saffron;
     ground.setAlphaF(isDown() || pressedInside_ ? 0.35F : captured_ ? 0.15F : 0.0F);
     painter.setPen(Qt::NoPen);
     painter.setBrush(ground);
@@ -223,7 +224,7 @@ void ImageButton::paintEvent(QPaintEvent *) {
     painter.drawText(rest, static_cast<int>(side | Qt::AlignVCenter | Qt::TextShowMnemonic | Qt::TextWordWrap), text());
   }
   if (focusShown_) {
-    painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+    painter.setPen(QPen(ChartPalette::For(palette()).saffron, 2));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 6, 6);
   }

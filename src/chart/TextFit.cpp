@@ -12,7 +12,10 @@
 
 namespace {
 
-constexpr int LeastSize = 5;  // below this nothing is a text any more
+// A text is set as large as its box holds, and once it is at its smallest readable size it spreads into the whole cell.
+// Only where even the cell is too small does it shrink below that size, down to this one, under which nothing is a
+// text any more: a planet that is left out would make the chart wrong.
+constexpr int LeastSize = 5;
 
 struct Span {
   double left = 0;
@@ -50,6 +53,8 @@ std::optional<Words> Flow(const Words &words, int size, const TextMeasure &measu
       used = with;
       ++next;
     }
+    // Centred on purpose: the cells are triangles and diamonds, whose room lies about their middle, and a text that
+    // began at its box's left edge would stand against a slanted line.
     const double start = span.left + (span.right - span.left - used) / 2;
     for (size_t i = first; i < next; ++i) set[i].box.translate(start, 0);
   }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QString>
+#include <array>
 #include <optional>
 
 // How the facts of a day become the key of a paragraph in the language's data file. The keys are English in every
@@ -31,5 +32,19 @@ Key WeekdayKey(int weekday);
 Key NakshatraKey(int nakshatra);
 std::optional<Key> SuryaYogaKey(int yoga);                 // none outside 1 to 27
 Key MoonTransitKey(int birthMoonSign, int todayMoonSign);  // "Moon1" in the birth sign
+
+// Kept words that no page shows: directions of the day, professions of the planets, and the weekday's verdict on a court-case.
+constexpr std::array<const char *, 9> Directions{"East, North, South-East", "West, South, North-West", "South-East, South-East",
+                                                 "South, East, South-West", "East, North, North-East", "West, South, South-West",
+                                                 "West, North-West",        "North, West, North-West", "North, West, North-East"};
+constexpr std::array<const char *, 4> Professions{
+    "Science, Engineering, Armed Forces, Industry, Electricity, Medical and Administrative Studies.",
+    "Writing, Medical, Cosmetics, Medicine Research and planning.",
+    "Electronics, Surgery, Martial Arts, Fire, Sports, Dental science.",
+    "Farming, Shares, Books, Publishing, Accounts, Education, Law, Sculpture, Editing, Vehicles.",
+};
+constexpr std::array<const char *, 3> CourtCaseVerdicts{"Today's weekday is auspicious for a court-case.",
+                                                        "Today's weekday is mediocre for a court-case.",
+                                                        "Today's weekday is unlucky for a court-case."};
 
 }  // namespace PredictionKeys

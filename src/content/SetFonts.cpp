@@ -3,8 +3,10 @@
 #include "content/SetFonts.h"
 
 #include <QWidget>
+#include <map>
 
 #include "chart/Kundali.h"
+#include "engine/clsPlanets.h"
 
 QFont SetFonts::Face(int points, bool bold) {
   QFont font;
@@ -35,4 +37,14 @@ void SetFonts::SetSmallFont(QWidget &target) const {
   QFont font = SmallFont();
   font.setBold(target.font().bold());
   target.setFont(font);
+}
+
+QString SetFonts::GetSymbol(int kind, const clsPlanets &chart) {
+  static const std::map<int, QString> Signs{{1, ":"}, {2, ":"}, {3, "/"}, {4, "-"}, {5, "+"}};
+  static std::map<QString, QString> remembered;
+  const auto sign = Signs.find(kind);
+  if (sign == Signs.end()) return {};
+  const auto found = remembered.find(sign->second);
+  if (found != remembered.end()) return found->second;
+  return remembered[sign->second] = chart.GetHeadValue(1, sign->second, QStringLiteral("Symbols"));
 }

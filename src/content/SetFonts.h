@@ -9,6 +9,7 @@
 
 class Kundali;
 class QWidget;
+class clsPlanets;
 
 // The five font roles of a language. Every face is Arial or its metric twin; a language differs by sizes and bold.
 class SetFonts {
@@ -29,6 +30,10 @@ class SetFonts {
   void SetSubHeadFont(QWidget &target) const;
   void SetSmallFont(QWidget &target) const;
   void SetKundaliFont(Kundali &control) const;
+
+  // The language's form of a sign: kinds 1 and 2 the colon, 3 the slash, 4 the minus, 5 the plus; empty for any other.
+  // Asked of the chart's words once in a run: a language that is chosen later keeps the signs of the first.
+  static QString GetSymbol(int kind, const clsPlanets &chart);
 
  private:
   static QFont Face(int points, bool bold);

@@ -84,13 +84,14 @@ QString Theme::StyleSheet(const QString &arrow) const {
     QFrame[role="navrow"][chosen="true"] { background: @selection; border-left: 4px solid @saffron; }
     QLabel[role="brand"] { color: @maroon; font-size: 20pt; font-weight: bold; }
     QPushButton[role="headlink"] { background: transparent; border: none; color: @maroon; padding: 0; text-align: left; min-height: 20px; }
-    QPushButton[role="headlink"]:hover { color: @saffron; }
-    QPushButton[role="headlink"]:focus { border: none; color: @saffron; text-decoration: underline; }
+    QPushButton[role="headlink"]:hover { color: @accent; text-decoration: underline; }
+    QPushButton[role="headlink"]:focus { border: none; color: @accent; text-decoration: underline; }
     QLabel[role="title"], QLabel[role="head"] { color: @maroon; }
     QLabel[role="caption"] { color: @muted; }
     QLabel[role="bad"] { color: @bad; }
     QLabel[role="good"] { color: @good; }
-    QLabel[role="warn"] { color: @saffron; }
+    QLabel[role="warn"] { color: @accent; }
+    QLabel[role="step"] { color: @maroon; font-weight: bold; }
     QPushButton { background: @card; border: 1px solid @line; border-radius: 8px; padding: 7px 16px; min-height: 18px; }
     QPushButton:hover { background: @selection; }
     QPushButton:focus { border: 2px solid @saffron; padding: 6px 15px; }
@@ -104,6 +105,9 @@ QString Theme::StyleSheet(const QString &arrow) const {
       padding: 5px 8px; selection-background-color: @selection; selection-color: @ink; }
     QLineEdit:focus, QComboBox:focus, QSpinBox:focus, QDateEdit:focus, QPlainTextEdit:focus { border: 2px solid @saffron; padding: 4px 7px; }
     QComboBox::drop-down { border: none; width: 22px; }
+    QComboBox[role="headercard"] { background: @paper; border-radius: 10px; padding: 4px 8px 4px 12px; }
+    QComboBox[role="headercard"]:hover { background: @selection; }
+    QComboBox[role="headercard"]:focus { padding: 3px 7px 3px 11px; }
     QComboBox QAbstractItemView, QListView, QTreeView, QTableView { background: @card; border: 1px solid @line; outline: none;
       selection-background-color: @selection; selection-color: @ink; }
     QListView::item, QTreeView::item { padding: 6px 8px; border-radius: 6px; }
@@ -132,21 +136,14 @@ QString Theme::StyleSheet(const QString &arrow) const {
     QTabBar::tab:selected { color: @maroon; border-bottom: 2px solid @saffron; }
     QTabWidget::pane { border: 1px solid @line; border-radius: 10px; background: @card; }
   )");
-  const std::pair<const char *, QColor> roles[] = {{"@paper", chart.paper},
-                                                   {"@card", chart.card},
-                                                   {"@line", chart.line},
-                                                   {"@ink", chart.ink},
-                                                   {"@muted", chart.muted},
-                                                   {"@onmaroon", dark ? chart.paper : chart.card},
-                                                   {"@maroon", chart.maroon},
-                                                   {"@saffron", chart.saffron},
-                                                   {"@gold", chart.gold},
-                                                   {"@goodBack", goodBack},
-                                                   {"@good", good},
-                                                   {"@badBack", badBack},
-                                                   {"@bad", bad},
-                                                   {"@selection", selection},
-                                                   {"@tint", tint}};
+  const std::pair<const char *, QColor> roles[] = {{"@paper", chart.paper},   {"@card", chart.card},
+                                                   {"@line", chart.line},     {"@ink", chart.ink},
+                                                   {"@muted", chart.muted},   {"@onmaroon", dark ? chart.paper : chart.card},
+                                                   {"@maroon", chart.maroon}, {"@saffron", chart.saffron},
+                                                   {"@accent", chart.accent}, {"@gold", chart.gold},
+                                                   {"@goodBack", goodBack},   {"@good", good},
+                                                   {"@badBack", badBack},     {"@bad", bad},
+                                                   {"@selection", selection}, {"@tint", tint}};
   if (!arrow.isEmpty()) sheet += QStringLiteral("QComboBox::down-arrow { image: url(%1); width: 16px; height: 16px; }").arg(arrow);
   for (const auto &[role, colour] : roles) sheet.replace(QLatin1String(role), colour.name());
   return sheet;

@@ -12,7 +12,7 @@ class QApplication;
 // The colours of the skin by role, light or dark with the desktop, and the style sheet made of them. Screens name
 // roles, never colours. Colour never stands alone: every good or bad period also has its word.
 struct Theme {
-  ChartPalette chart;  // paper, card, line, ink, muted, maroon, saffron, gold
+  ChartPalette chart;  // paper, card, line, ink, muted, maroon, saffron, gold, and two for text
   QColor good, goodBack, bad, badBack;
   QColor selection;  // the chosen row, the button under the pointer
   QColor tint;       // every second row of a table

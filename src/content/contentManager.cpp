@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr int Overview = 18;
+constexpr int Overview = 18, Credits = 5;
 
 }  // namespace
 
@@ -48,6 +48,8 @@ const std::vector<contentManager::Row> &contentManager::Table() {
       {33, "BirthAttributes", "framBirthAttributes"},
       {34, "DayScores", "framScores"},
       {35, "VakyaPositions", "framVakya"},
+      {36, "ExactDay", "framExactDay"},
+      {37, "Month", "framMonth"},
       {StudyListPage, "StudyList", "picStudyList"},
   };
   return table;
@@ -81,14 +83,15 @@ void contentManager::ShowPage(int page) {
   PreviousPage = CurrentPage;
   fonts.SetHeadFont(title);
   HideCurrentPage();
+  if (leaving) leaving();
   CurrentPage = page;
   if (page == Overview) content.widget->show();
-  try {
+  Tell([&] {
     if (content.fill) content.fill();
-    SetPageTitle(TitleOf(page));
-  } catch (const Error &error) {
-    Notices::Show({Notice::Kind::Warning, QString(), error.Sentence()});
-  }
+  });
+  QString titleText;
+  Tell([&] { titleText = TitleOf(page); });
+  SetPageTitle(titleText);
   ApplyPageFonts(page);
   content.widget->show();
   emit PageShown(page);
@@ -99,6 +102,16 @@ QWidget *contentManager::CurrentWidget() const {
   return current == pages.end() ? nullptr : current->second.widget;
 }
 
+void contentManager::Tell(const std::function<void()> &step) {
+  try {
+    step();
+  } catch (const Error &error) {
+    Notices::Show({Notice::Kind::Warning, QString(), error.Sentence()});
+  } catch (const std::exception &error) {
+    Notices::Show({Notice::Kind::Warning, QString(), QString::fromLocal8Bit(error.what())});
+  }
+}
+
 void contentManager::HideCurrentPage() {
   const auto current = pages.find(CurrentPage);
   if (current != pages.end()) current->second.widget->hide();
@@ -106,7 +119,9 @@ void contentManager::HideCurrentPage() {
 
 void contentManager::SetPageTitle(const QString &text) { title.setText(text); }
 
+// The credits are the program's own words in the program's own fonts, whatever the language.
 void contentManager::ApplyPageFonts(int page) {
+  if (page == Credits) return;
   const Page &content = pages.at(page);
   if (content.applyFonts) content.applyFonts(fonts);
 }

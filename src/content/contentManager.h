@@ -43,6 +43,8 @@ class contentManager : public QObject {
   void AddPage(int page, Page content);
   // What surrounds the filling of a page for as long as the answer lives, such as a gathering of its notices.
   void SetFillGuard(std::function<std::shared_ptr<void>()> makeGuard) { fillGuard = std::move(makeGuard); }
+  // Runs on every change of page, before the next one is filled.
+  void SetLeaving(std::function<void()> action) { leaving = std::move(action); }
   void SetFontsOf(const SetFonts &languageFonts) { fonts = languageFonts; }
 
   // Shows the page, filled anew; a number that is no page changes nothing. What goes wrong in a page is told in its
@@ -63,6 +65,7 @@ class contentManager : public QObject {
   void PageShown(int page);
 
  private:
+  static void Tell(const std::function<void()> &step);  // what a step throws becomes a notice
   void HideCurrentPage();
   void SetPageTitle(const QString &text);
   void ApplyPageFonts(int page);
@@ -71,6 +74,7 @@ class contentManager : public QObject {
   QLabel &title;
   SetFonts fonts;
   std::function<std::shared_ptr<void>()> fillGuard;
+  std::function<void()> leaving;
   std::map<int, Page> pages;
   int CurrentPage = 0;
   int PreviousPage = 0;

@@ -290,11 +290,7 @@ void frmSettings::LoadValues() {
 void frmSettings::ShowStep(int step) {
   frames->setCurrentIndex(qBound(0, step, LastStep));
   const int at = frames->currentIndex();
-  const QFont plain = ShellFonts().NormalFont();
-  for (int i = 0; i <= LastStep; ++i) {
-    SetRole(*trail[i], i == at ? "title" : "caption");
-    trail[i]->setFont(i == at ? Bold(plain) : plain);
-  }
+  for (int i = 0; i <= LastStep; ++i) SetRole(*trail[i], i == at ? "step" : "caption");
   QPushButton *forward = at == LastStep ? flpFinish : flpNextFrame;
   flpPrevFrame->setEnabled(at > 0);
   flpNextFrame->setEnabled(at < LastStep);

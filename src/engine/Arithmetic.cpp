@@ -171,7 +171,7 @@ QString clsPlanets::Direction(int index) const {
   if (words.direct.isEmpty()) words.direct = GetTextBetween(QStringLiteral("CNVT"), QStringLiteral("DIRECT"), QStringLiteral("GEN"));
   if (words.retrograde.isEmpty()) words.retrograde = GetTextBetween(QStringLiteral("CNVT"), QStringLiteral("RETRO"), QStringLiteral("GEN"));
   SubscriptError::Check("Direction", index, 0, 13);
-  // Entry 0 of the raw array is 0 and entry 13 the ayanamsha, so the ascendant reads direct.
-  const bool direct = longitude[static_cast<size_t>(index)] < longitude[static_cast<size_t>(index) + 13];
+  // The ascendant never turns back. Its entries tell nothing of motion: entry 0 is 0 and entry 13 the ayanamsha, which can be 0 too.
+  const bool direct = index == 0 || longitude[static_cast<size_t>(index)] < longitude[static_cast<size_t>(index) + 13];
   return direct ? words.direct : words.retrograde;
 }

@@ -191,7 +191,11 @@ double clsPlanets::SwissAyanamsha(int mode) const {
   const ::clsPerson &p = clsPerson();
   // After a calculation the person holds local time, which is then taken as universal time.
   const double julianDay = Ephemeris::JulianDay(p.Year(), p.Month(), p.Day(), p.Hour() + p.Minutes() / 60.0);
-  return Ephemeris::Ayanamsha(julianDay, mode == 3 ? Ephemeris::SiderealMode::Krishnamurti : Ephemeris::SiderealMode::Raman);
+  switch (mode) {
+    case 2: return Ephemeris::Ayanamsha(julianDay, Ephemeris::SiderealMode::Raman);
+    case 3: return Ephemeris::Ayanamsha(julianDay, Ephemeris::SiderealMode::Krishnamurti);
+    default: return Ephemeris::Ayanamsha(julianDay);
+  }
 }
 
 double clsPlanets::KPAyanVal() const { return SwissAyanamsha(3); }

@@ -40,8 +40,10 @@ std::array<double, 13> PlacidusCusps(double julianDay, double latitude, double l
 
 double Ayanamsha(double julianDay, SiderealMode mode) {
   swe_set_sid_mode(static_cast<int>(mode), 0, 0);
-  return swe_get_ayanamsa(julianDay);
+  return Ayanamsha(julianDay);
 }
+
+double Ayanamsha(double julianDay) { return swe_get_ayanamsa(julianDay); }
 
 double ApparentLongitude(double universalDay, Body body, const Zodiac &zodiac) {
   std::array<double, 11> position{};

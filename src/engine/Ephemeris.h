@@ -30,6 +30,8 @@ std::array<double, 13> PlacidusCusps(double julianDay, double latitude, double l
 
 // The ayanamsha in degrees by the library's sidereal mode. The mode is library-wide state, set here just before the query.
 double Ayanamsha(double julianDay, SiderealMode mode);
+// The same by whatever mode was set last; the library starts with Fagan and Bradley's.
+double Ayanamsha(double julianDay);
 
 // --- the sky of the exact day: every moment below is a Julian day in universal time, to which the library adds its delta T ---
 

@@ -6,8 +6,8 @@
 #include <QString>
 #include <QTimeZone>
 
-// The clock of a place: a fixed difference, or a time zone with its history of daylight saving. Clock times are given with the
-// time spec UTC, as a plain calendar; moments are Julian days in universal time.
+// The clock of a place: a fixed difference, or a time zone with its history of daylight saving. Clock times are QDateTimes in
+// UTC, used as a plain calendar; moments are Julian days in universal time.
 class ExactZone {
  public:
   explicit ExactZone(int minutesEast = 0) : fixedSeconds(minutesEast * 60) {}

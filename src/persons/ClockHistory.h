@@ -30,7 +30,7 @@ class ClockHistory {
     int MinutesEast() const;  // rounded, as the stores keep it
   };
 
-  // zone: a name such as "Asia/Kolkata"; the moment is the place's clock time, its time spec is not looked at.
+  // zone: a name such as "Asia/Kolkata"; the moment is the place's clock time, its zone is not looked at.
   // Nothing for an unknown zone or a moment that is not valid.
   static std::optional<Reading> At(const QString &zone, const QDate &date, const QTime &time);
 

@@ -163,8 +163,9 @@ double clsPerson::Longitude() const { return longDeg + longMinutes / 100.0; }
 
 QDate clsPerson::MakeDate(int day, int month, int year) {
   const QDate date(year, month, day);
-  if (!date.isValid() || year < 1)
-    throw ConversionError(QStringLiteral("The date %1/%2/%3 does not exist; give day, month and year, as in 23/07/1980.")
+  // Beyond four digits a year fits no screen, store or text of this program.
+  if (!date.isValid() || year < 1 || year > 9999)
+    throw ConversionError(QStringLiteral("The date %1/%2/%3 does not exist; give day, month and year from 1 to 9999, as in 23/07/1980.")
                               .arg(Two(day), Two(month), QString::number(year)));
   return date;
 }

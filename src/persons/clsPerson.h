@@ -85,7 +85,7 @@ class clsPerson {
   // --- values -------------------------------------------------------------------------------------
   double Latitude() const;  // degrees.minutes (27.09), not decimal degrees
   double Longitude() const;
-  // Local birth moment without seconds. Throws ConversionError for a date that does not exist.
+  // Local birth moment without seconds. Throws ConversionError for a date that does not exist in the years 1 to 9999.
   QDateTime GetBirthDate() const;
   int WeekDayOfBirth() const;          // of the civil date, 1 Sunday to 7 Saturday
   QString GetBirthTime() const;        // clock number as text: "10.50"

@@ -57,9 +57,11 @@ AppPaths::Candidates AppPaths::Candidates::OfThisMachine(const QString &explicit
   return all;
 }
 
-AppPaths AppPaths::Locate(const QString &explicitAppDir) { return Locate(Candidates::OfThisMachine(explicitAppDir)); }
+AppPaths AppPaths::Locate(const QString &explicitAppDir, Access access) {
+  return Locate(Candidates::OfThisMachine(explicitAppDir), access);
+}
 
-AppPaths AppPaths::Locate(const Candidates &candidates) {
+AppPaths AppPaths::Locate(const Candidates &candidates, Access access) {
   if (!candidates.explicitAppDir.isEmpty()) {
     if (!HoldsEphe(candidates.explicitAppDir)) {
       throw MissingFileError(tr("The folder \"%1\" holds no folder EPHE with the data files. Please name the folder that does.")
@@ -76,7 +78,15 @@ AppPaths AppPaths::Locate(const Candidates &candidates) {
   for (const QString &source : sources) {
     if (HoldsEphe(source)) {
       const AppPaths user = Of(candidates.userDataDir);
-      DataSeed::BringUpToDate(EpheOf(source), user);
+      try {
+        DataSeed::BringUpToDate(EpheOf(source), user);
+      } catch (const StoreError &) {
+        if (access == Access::Write || !QFileInfo(EpheOf(source)).isReadable()) {
+          throw;
+        }
+        // The version is written last, so a folder that has one is whole, and its persons are the user's.
+        return QFileInfo::exists(user.Ephe(DataSeed::kVersionFile)) ? user : Of(source);
+      }
       return user;
     }
   }

@@ -12,8 +12,6 @@
 
 namespace {
 
-const QString kSeed = QStringLiteral("SEED");
-
 // What the user's work goes into, relative to EPHE.
 bool IsUsersOwn(const QString &relative) {
   const QString name = relative.toLower();
@@ -21,19 +19,25 @@ bool IsUsersOwn(const QString &relative) {
          name.startsWith(QLatin1String("inifiles/"));
 }
 
+// What a run has put beside the stores of a folder that now serves as a source: another user's, and no data of the program.
+bool IsLeftByARun(const QString &relative) {
+  return relative.endsWith(QLatin1String(".kept"), Qt::CaseInsensitive) ||
+         relative.endsWith(QLatin1String(".damaged"), Qt::CaseInsensitive);
+}
+
 QByteArray Version(const QString &path) { return QFileInfo::exists(path) ? ReadWholeFile(path).trimmed() : QByteArray(); }
 
 }  // namespace
 
 void DataSeed::BringUpToDate(const QString &installedEphe, const AppPaths &user) {
-  const QByteArray installedVersion = Version(installedEphe + u'/' + kSeed);
-  const bool renew = !installedVersion.isEmpty() && installedVersion != Version(user.Ephe(kSeed));
+  const QByteArray installedVersion = Version(installedEphe + u'/' + kVersionFile);
+  const bool renew = !installedVersion.isEmpty() && installedVersion != Version(user.Ephe(kVersionFile));
 
   QDirIterator files(installedEphe, QDir::Files, QDirIterator::Subdirectories | QDirIterator::FollowSymlinks);
   while (files.hasNext()) {
     const QString source = files.next();
     const QString relative = QDir(installedEphe).relativeFilePath(source);
-    if (relative == kSeed) {
+    if (relative == kVersionFile || IsLeftByARun(relative)) {
       continue;
     }
     const QString target = user.Ephe(relative);
@@ -52,6 +56,6 @@ void DataSeed::BringUpToDate(const QString &installedEphe, const AppPaths &user)
   }
   // Last, so that a run that was cut off counts as not done.
   if (renew) {
-    WriteWholeFile(user.Ephe(kSeed), installedVersion + '\n');
+    WriteWholeFile(user.Ephe(kVersionFile), installedVersion + '\n');
   }
 }

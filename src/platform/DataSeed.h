@@ -12,6 +12,9 @@ class DataSeed {
   Q_DECLARE_TR_FUNCTIONS(DataSeed)
 
  public:
+  /// Holds the version of the data in an EPHE folder.
+  inline static const QString kVersionFile = QStringLiteral("SEED");
+
   /// Copies what is missing. When the data version (the file SEED) differs, texts, pictures and fonts are copied anew.
   /// Persons, residences and settings are the user's: never overwritten, and a missing store comes back from its kept copy first.
   /// An interrupted run is made good by the next.

@@ -4,8 +4,12 @@
 
 #include "platform/Errors.h"
 
+#include <QFile>
+#include <QFileInfo>
 #include <QSettings>
 #include <QStandardPaths>
+
+#include <algorithm>
 
 namespace {
 
@@ -22,6 +26,21 @@ QString StoredSpelling(const QStringList &names, const QString &name) {
     }
   }
   return name;
+}
+
+// Whether the file can hold settings: it is empty, or a line of it is a section, an entry or a remark.
+bool LooksLikeSettings(const QByteArray &content) {
+  if (content.trimmed().isEmpty()) {
+    return true;
+  }
+  if (content.contains('\0')) {
+    return false;
+  }
+  const QList<QByteArray> lines = content.split('\n');
+  return std::any_of(lines.begin(), lines.end(), [](const QByteArray &line) {
+    const QByteArray text = line.trimmed();
+    return text.startsWith(';') || (text.startsWith('[') && text.endsWith(']')) || text.indexOf('=') > 0;
+  });
 }
 
 }  // namespace
@@ -67,11 +86,33 @@ FileUserSettings::FileUserSettings(const QString &path)
     : file_(std::make_unique<QSettings>(
           path.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + QStringLiteral("/orvani/orvani.conf")
                          : path,
-          QSettings::IniFormat)) {}
+          QSettings::IniFormat)) {
+  CheckReadable();
+}
 
 FileUserSettings::~FileUserSettings() = default;
 
 QString FileUserSettings::Path() const { return file_->fileName(); }
+
+// Without this a file that cannot be read would count as an empty one, and the chart of another ayanamsha would be shown unasked.
+void FileUserSettings::CheckReadable() const {
+  const QFileInfo info(Path());
+  if (!info.exists()) {
+    return;
+  }
+  QFile file(Path());
+  if (!info.isFile() || !file.open(QIODevice::ReadOnly) || file_->status() == QSettings::AccessError) {
+    throw StoreError(
+        tr("The settings file \"%1\" cannot be read. Please allow reading it, or move it away to start with the usual settings.")
+            .arg(Path()),
+        info.isFile() ? StoreError::Kind::Unreadable : StoreError::Kind::NotAFile);
+  }
+  if (file_->status() != QSettings::NoError || !LooksLikeSettings(file.readAll())) {
+    throw StoreError(
+        tr("The settings file \"%1\" is damaged. Please mend it, or move it away to start with the usual settings.").arg(Path()),
+        StoreError::Kind::Damaged);
+  }
+}
 
 QString FileUserSettings::FullKey(const QString &section, const QString &key) const {
   const QString storedSection = StoredSpelling(file_->childGroups(), section);

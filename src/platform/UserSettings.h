@@ -44,7 +44,8 @@ class FileUserSettings : public UserSettings {
   Q_DECLARE_TR_FUNCTIONS(FileUserSettings)
 
  public:
-  /// @param path the file; empty for orvani/orvani.conf in the user's configuration folder
+  /// @param path the file; empty for orvani/orvani.conf in the user's configuration folder. One that does not exist holds no settings yet.
+  /// @throws StoreError when the file is there and cannot be read as settings
   explicit FileUserSettings(const QString &path = QString());
   ~FileUserSettings() override;
 
@@ -55,6 +56,7 @@ class FileUserSettings : public UserSettings {
   QString Path() const;
 
  private:
+  void CheckReadable() const;
   QString FullKey(const QString &section, const QString &key) const;
 
   std::unique_ptr<QSettings> file_;

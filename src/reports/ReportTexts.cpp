@@ -12,6 +12,12 @@ void clsDailyPrinter::PrintPredictions(const ReportTopics &topics) {
   printer.SetCurrent(LeftMargin + Inches(0.375), TopMargin + Inches(1.75));
   const clsPlanets &birth = session.BirthChart(), &today = session.TodayChart();
   const int weekday = today.clsPerson().WeekDayOfBirth();
+  const auto head = [this](const char *key) {
+    PrintMyText(PageTitle(key), QLatin1String(NormFont), setup.language.NormalSize, setup.language.HeadBold, true);
+  };
+  const ::PrintMyText onPaper = [this](const QString &text, bool bold) {
+    PrintMyText(text, QLatin1String(NormFont), setup.language.SmallSize, bold, false);
+  };
   // The paper's finance and journey go by the Moon's signs, where the screen's go by the ascendants.
   if (topics.Has("FinancialAnalysis")) PrintTopic(PageTitle("FinancialAnalysis"), FinanceText(today, weekday, birth.RashiNum()));
   if (topics.Has("TithiResult")) PrintTopic(PageTitle("TithiResult"), TithiText(today, DailyYogas::RunningTithi(today.Tithi())));
@@ -19,8 +25,14 @@ void clsDailyPrinter::PrintPredictions(const ReportTopics &topics) {
   if (topics.Has("Journey")) PrintTopic(PageTitle("Journey"), JourneyText(today, weekday, clsPlanets::GetRashiElement(today.RashiNum())));
   if (topics.Has("Yogas")) PrintYogas();
   if (topics.Has("Rashifala")) PrintTopic(PageTitle("Rashifala"), RashifalaText(today, birth.RashiNum(), today.RashiNum()));
-  if (topics.Has("Yogas")) PrintTopic(PageTitle("SuryaYogaResults"), SuryaYogaText(today, today.YogaNumber()));
-  if (topics.Has("WeekdayRes")) PrintTopic(PageTitle("WeekdayResult"), WeekdayText(today, weekday));
+  if (topics.Has("Yogas")) {
+    head("SuryaYogaResults");
+    SuryaYogaText(today, today.YogaNumber(), &onPaper);
+  }
+  if (topics.Has("WeekdayRes")) {
+    head("WeekdayResult");
+    WeekdayText(today, weekday, &onPaper);
+  }
 }
 
 void clsDailyPrinter::PrintTopic(const QString &title, const QString &body) {
@@ -30,6 +42,8 @@ void clsDailyPrinter::PrintTopic(const QString &title, const QString &body) {
 
 void clsDailyPrinter::PrintYogas() {
   PrintMyText(PageTitle("YogaResults"), QLatin1String(NormFont), setup.language.NormalSize, setup.language.HeadBold, true);
-  for (const PredictionPage::Line &line : ShowYogas(session.TodayChart()).lines)
-    PrintMyText(line.text, QLatin1String(NormFont), NormSize, line.isHead, line.isHead);
+  const ::PrintMyText onPaper = [this](const QString &text, bool bold) {
+    PrintMyText(text, QLatin1String(NormFont), NormSize, bold, bold);
+  };
+  ShowYogas(session.TodayChart(), &onPaper);
 }

@@ -9,6 +9,7 @@
 #include <QProcess>
 
 #include "platform/Database.h"
+#include "platform/FileTools.h"
 #include "support/DataFolder.h"
 
 namespace {
@@ -20,12 +21,13 @@ struct Answer {
 
 class DailyProgram : public testing::Test {
  protected:
-  Answer Call(QStringList arguments) {
-    arguments << "--app-dir" << data.Path();
+  Answer Call(QStringList arguments, const QString &outputFile = QString()) {
+    if (!arguments.contains("--app-dir")) arguments << "--app-dir" << data.Path();
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("XDG_CONFIG_HOME", config.path());
     process.setProcessEnvironment(environment);
+    if (!outputFile.isEmpty()) process.setStandardOutputFile(outputFile);
     process.start(QStringLiteral(ORVANI_DAILY), arguments);
     process.waitForFinished(60000);
     return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
@@ -43,6 +45,7 @@ TEST_F(DailyProgram, PrintsTheDay) {
   const Answer list = Call({"--list"});
   EXPECT_EQ(list.code, 0);
   EXPECT_EQ(list.out, "Anvik Telvar\n");
+  EXPECT_EQ(QJsonDocument::fromJson(Call({"--list", "--json"}).out).array(), QJsonArray{"Anvik Telvar"});
   const Answer day = Call({"--at", "2026-11-21 09:00"});
   EXPECT_EQ(day.code, 0) << day.err.constData();
   for (const char *part : {"Anvik Telvar", "Agra", "Saturday", "Shukla Dvadashi", "Revati", "Rahu Kaal", "9:16 AM-10:50 AM",
@@ -71,7 +74,7 @@ TEST_F(DailyProgram, ReadsTheDaysTexts) {
                                                             {"moontransit", "Moon Transits"},
                                                             {"finance", "Financial Analysis"},
                                                             {"journey", "Journey"}};
-  ASSERT_EQ(texts.size(), static_cast<qsizetype>(std::size(families)));
+  ASSERT_EQ(texts.size(), static_cast<qsizetype>(std::size(families)) + 1) << "and the yogas";
   const QString words = read.simplified();
   qsizetype last = 0;
   for (const auto &[name, title] : families) {
@@ -83,6 +86,12 @@ TEST_F(DailyProgram, ReadsTheDaysTexts) {
   }
   EXPECT_EQ(texts["weekday"]["key"], "Wednesday");
   EXPECT_EQ(day["yogas"].toArray(), (QJsonArray{"VIDAL YOGA", "Ravi Yoga"}));
+  const QJsonArray muhurtha = texts["muhurtha"].toArray();
+  ASSERT_EQ(muhurtha.size(), 2);
+  for (const QJsonValue yoga : muhurtha)
+    EXPECT_TRUE(words.contains(yoga["title"].toString() + ' ' + yoga["text"].toString().simplified()))
+        << yoga["key"].toString().toStdString();
+  EXPECT_EQ(muhurtha[1]["key"], "Ravi Yoga");
   const qsizetype yogas = words.indexOf("Yogas of the Day"), vidala = words.indexOf("Vidala Yoga", yogas);
   EXPECT_GT(yogas, last);
   EXPECT_GT(vidala, yogas);
@@ -160,6 +169,13 @@ TEST_F(DailyProgram, AnswersAWrongCallInOneLine) {
       {{"--person", "Nobody"}, "'Nobody'"},
       {{"--at", "2026-02-30 10:00"}, "2026-02-30 10:00"},
       {{"--at", "noon"}, "noon"},
+      {{"--at", "0001-01-01 00:30"}, "0100 to 9999"},
+      {{"--at", "10000-01-01 10:00"}, "0100 to 9999"},
+      {QStringList(Birth) << "--corr"
+                          << "24.5",
+       "--corr '24.5'"},
+      {{"--custom-ayan", "-360.1"}, "--custom-ayan '-360.1'"},
+      {{"--app-dir", "/nowhere"}, "/nowhere"},
       {{"--at"}, "at"},
       {{"--ayan", "14"}, "14"},
       {{"--nodes", "3"}, "--nodes '3'"},
@@ -191,13 +207,14 @@ TEST_F(DailyProgram, AnswersAWrongCallInOneLine) {
 
 TEST_F(DailyProgram, TellsAFailingStore) {
   const std::pair<const char *, const char *> rows[] = {
-      {"COMMON/SADESAT.Dat", "SADESAT"}, {"ENGLISH/ENGLISH.DAT", "English"}, {"COMMON/RECOS.Dat", "RECOS"}};
+      {"COMMON/SADESAT.Dat", "SADESAT"}, {"ENGLISH/ENGLISH.DAT", "ENGLISH/ENGLISH.DAT"}, {"COMMON/RECOS.Dat", "RECOS"}};
   for (const auto &[file, named] : rows) {
     const QString path = data.File(file);
     QFile::rename(path, path + ".away");
     const Answer answer = Call({});
     EXPECT_EQ(answer.code, 1) << file << answer.err.constData();
     EXPECT_TRUE(answer.err.contains(named)) << answer.err.constData();
+    EXPECT_EQ(answer.err.count('\n'), 1) << answer.err.constData();
     QFile::rename(path + ".away", path);
   }
   QFile damaged(data.File("COMMON/RECOS.Dat"));
@@ -207,8 +224,76 @@ TEST_F(DailyProgram, TellsAFailingStore) {
   EXPECT_EQ(Call({"--list"}).code, 1);
 }
 
+TEST_F(DailyProgram, NamesTheStoredRecordThatCannotBeCalculated) {
+  const QString persons = data.File("COMMON/RECOS.Dat"), residences = data.File("COMMON/Daily.dat");
+  const QByteArray sound = ReadWholeFile(persons);
+  const std::pair<QString, const char *> rows[] = {{persons, "UPDATE Person SET GMTDIFF = ''"},
+                                                   {persons, "UPDATE Person SET Day = 31, Month = 2"},
+                                                   {residences, "INSERT INTO Person (Name, GMTDIFF) VALUES ('Anvik Telvar', 'IST')"}};
+  for (const auto &[path, change] : rows) {
+    Database::OpenDatabase(path)->Execute(QLatin1String(change));
+    const Answer answer = Call({});
+    EXPECT_EQ(answer.code, 1) << change;
+    EXPECT_EQ(answer.err.count('\n'), 1) << change;
+    EXPECT_TRUE(answer.err.contains("'Anvik Telvar'")) << answer.err.constData();
+    WriteWholeFile(persons, sound);
+  }
+
+  QDir(config.path()).mkdir("orvani");
+  for (const char *content : {"[Init]\nAyanType=13\nCustAyan=much\n", "garbage"}) {
+    WriteWholeFile(config.path() + "/orvani/orvani.conf", content);
+    const Answer answer = Call(Birth);
+    EXPECT_EQ(answer.code, 1) << content;
+    EXPECT_TRUE(answer.err.count('\n') == 1 && answer.err.contains("orvani.conf")) << answer.err.constData();
+  }
+}
+
+TEST_F(DailyProgram, TellsThatTheAnswerCannotBeWritten) {
+  if (!QFileInfo::exists("/dev/full")) GTEST_SKIP() << "this system has no full device";
+  for (const char *form : {"--list", "--json", "--help"}) {
+    const Answer answer = Call({form}, "/dev/full");
+    EXPECT_EQ(answer.code, 1) << form;
+    EXPECT_EQ(answer.err.count('\n'), 1) << form << answer.err.constData();
+  }
+}
+
+// The screen keeps a place in its list of languages, a hand may write a name.
+TEST_F(DailyProgram, SpeaksTheChosenLanguage) {
+  const auto list = Database::OpenDatabase(data.File("COMMON/LANGS.Dat"));
+  list->Execute("DELETE FROM Language WHERE Name <> 'English'");
+  list->Execute("UPDATE Language SET Include = 1");
+  list->Execute("CREATE TEMP TABLE Other AS SELECT * FROM Language");
+  list->Execute("UPDATE Other SET Name = 'Zulu', Directory = 'ZULU'");
+  list->Execute("INSERT INTO Language SELECT * FROM Other");
+  const std::pair<const char *, bool> rows[] = {{"0", true},     {"1", false},      {"7", true},
+                                                {"zulu", false}, {"English", true}, {"Welsh", true}};
+  for (const auto &[chosen, english] : rows) {
+    WriteWholeFile(data.File("INIFILES/GENDAT.INI"), QByteArray("[Orvani]\nSelLang=") + chosen + '\n');
+    const Answer answer = Call({});
+    EXPECT_EQ(answer.code, english ? 0 : 1) << chosen;
+    EXPECT_EQ(answer.err.contains("ZULU"), !english) << chosen << answer.err.constData();
+  }
+}
+
+TEST_F(DailyProgram, GivesTheExactDayAndMonth) {
+  const Answer day = Call({"--exact", "--at", "2026-11-21 09:00"});
+  EXPECT_EQ(day.code, 0) << day.err.constData();
+  for (const char *part : {"Dvadashi", "Sunrise", "Abhijit"}) EXPECT_TRUE(day.out.contains(part)) << part << day.out.constData();
+  const QJsonObject json = QJsonDocument::fromJson(Call({"--json", "--at", "2026-11-21 09:00"}).out).object();
+  EXPECT_FALSE(json["exact"].toObject().isEmpty());
+  EXPECT_TRUE(Call({"--month", "2026-11"}).out.contains("Ekadashi"));
+  EXPECT_EQ(Call({"--month", "November"}).code, 2);
+  const QString file = data.Path() + "/month.ics";
+  EXPECT_EQ(Call({"--month", "2026-11", "--ics", file}).code, 0);
+  QFile written(file);
+  ASSERT_TRUE(written.open(QIODevice::ReadOnly));
+  EXPECT_TRUE(written.readAll().startsWith("BEGIN:VCALENDAR"));
+}
+
 TEST_F(DailyProgram, HelpsAndTellsItsVersion) {
-  EXPECT_TRUE(Call({"--help"}).out.contains("--person"));
+  const QByteArray help = Call({"--help"}).out;
+  EXPECT_TRUE(help.startsWith("Usage: orvani-daily ")) << help.constData();
+  EXPECT_TRUE(help.contains("--person"));
   const Answer version = Call({"--version"});
   EXPECT_EQ(version.code, 0);
   EXPECT_TRUE(version.out.contains("Swiss Ephemeris files")) << version.out.constData();

@@ -54,7 +54,7 @@ void RegisterPageFigures() {
   RegisterCaption("lblPanchTodayVal", [](Members &m, int row, const QString &) {
     return Value(FillPanchangPage(m.Birth(), m.Chart()).lblPanchTodayVal.at(static_cast<size_t>(row)));
   });
-  // The sunrise chart is cast for sunrise itself, so these minutes part from the worked figures on purpose.
+  // The sunrise chart is cast for sunrise itself, so these minutes part from the independently worked ones on purpose.
   RegisterCaption("SunriseKundali", [](Members &m, int, const QString &suffix) {
     const QTime time = SunriseMoment(m.Chart()).time();
     return Value(suffix == QLatin1String("Hour") ? time.hour() : time.minute());

@@ -44,13 +44,32 @@ TEST_F(DataFolderTest, TheApplicationFolderIsChosenInOrder) {
   EXPECT_THROW(AppPaths::Locate(named), MissingFileError);
 }
 
+TEST_F(DataFolderTest, AReaderDoesWithoutAFolderThatCannotBeWritten) {
+  Install("1");
+  WriteWholeFile(At("home"), "in the way");
+  EXPECT_THROW(AppPaths::Locate(InstalledAt("share")), StoreError);
+  EXPECT_EQ(AppPaths::Locate(InstalledAt("share"), AppPaths::Access::Read).AppDir(), At("share"));
+
+  QFile::remove(At("home"));
+  AppPaths::Locate(InstalledAt("share"));
+  Install("2");
+  QFile::remove(At("home/orvani/EPHE/ENGLISH/ENGLISH.DAT"));
+  QDir().rmdir(At("home/orvani/EPHE/ENGLISH"));
+  WriteWholeFile(At("home/orvani/EPHE/ENGLISH"), "in the way");
+  EXPECT_THROW(AppPaths::Locate(InstalledAt("share")), StoreError);
+  EXPECT_EQ(AppPaths::Locate(InstalledAt("share"), AppPaths::Access::Read).AppDir(), At("home/orvani")) << "the user's persons are there";
+}
+
 TEST_F(DataFolderTest, AnUpgradeRenewsTextsAndNeverTheUsersOwn) {
   const NoticeRecorder notices;
   Install("1");
+  const QStringList leftByARun{"COMMON/RECOS.Dat.kept", "COMMON/Daily.dat.2.damaged"};
+  for (const QString &file : leftByARun) WriteWholeFile(At("share/EPHE/") + file, "another user's");
   const AppPaths paths = AppPaths::Locate(InstalledAt("share"));
   const auto content = [&](const char *file) { return ReadWholeFile(paths.Ephe(file)).toStdString(); };
   EXPECT_EQ(content("COMMON/RECOS.Dat"), "1");
   EXPECT_EQ(content("SEED"), "1\n");
+  for (const QString &file : leftByARun) EXPECT_FALSE(QFileInfo::exists(At("home/orvani/EPHE/") + file)) << file;
 
   WriteWholeFile(paths.RecosPath(), "my persons");
   WriteWholeFile(paths.IniPath(), "my settings");

@@ -31,6 +31,24 @@ TEST_F(SettingsTest, FileSettingsOutliveTheirObjectAndIgnoreCase) {
   EXPECT_THROW(unwritable.SetValue(SettingKeys::AyanType, "3"), StoreError);
 }
 
+TEST_F(SettingsTest, AFileThatCannotBeReadIsToldAndNeverTakenForAnEmptyOne) {
+  const std::pair<const char *, QByteArray> unreadable[] = {{"words.conf", "not settings at all"},
+                                                            {"bytes.conf", QByteArray("\x00\x01=\x02", 4)}};
+  for (const auto &[name, content] : unreadable) {
+    WriteWholeFile(At(name), content);
+    QString sentence;
+    EXPECT_EQ(Refusal([&] { FileUserSettings settings(At(name)); }, &sentence), StoreError::Kind::Damaged) << name;
+    EXPECT_TRUE(sentence.contains(At(name))) << sentence;
+    EXPECT_EQ(ReadWholeFile(At(name)), content) << "it stays for the user to mend";
+  }
+  QDir().mkpath(At("folder.conf"));
+  EXPECT_EQ(Refusal([&] { FileUserSettings settings(At("folder.conf")); }), StoreError::Kind::NotAFile);
+  for (const char *content : {"", "\n", "; none yet\n", "[Init]\n"}) {
+    WriteWholeFile(At("sound.conf"), content);
+    EXPECT_EQ(FileUserSettings(At("sound.conf")).IntValue(SettingKeys::AyanType), 1) << content;
+  }
+}
+
 TEST_F(SettingsTest, AnOverlayKeepsItsWritesAndOddTextsFallBack) {
   MemoryUserSettings below;
   below.SetIntValue(SettingKeys::AyanType, 3);

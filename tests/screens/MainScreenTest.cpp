@@ -12,15 +12,20 @@
 #include <QTest>
 #include <QTextEdit>
 #include <QTimer>
+#include <cmath>
 
+#include "app/ElidedLabel.h"
 #include "app/MessageBoxes.h"
+#include "app/SkyDial.h"
 #include "app/frmDate.h"
 #include "app/frmMain.h"
 #include "chart/ImageButton.h"
 #include "chart/Kundali.h"
+#include "content/SetFonts.h"
 #include "content/Skin.h"
 #include "content/Theme.h"
 #include "content/contentManager.h"
+#include "content/frmSettings.h"
 #include "persons/frmPeople.h"
 #include "platform/Recordset.h"
 #include "support/DataFolder.h"
@@ -49,6 +54,8 @@ class MainScreen : public testing::Test {
     screen->resize(1280, 800);
     screen->show();
     screen->Load();
+    screen->activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(screen.get()));
     QApplication::processEvents();
     return *screen;
   }
@@ -312,4 +319,145 @@ TEST_F(MainScreen, EveryControlHasANameAndAKey) {
       EXPECT_NE(button->focusPolicy() & Qt::TabFocus, 0) << row.page << ' ' << button->objectName().toStdString();
     }
   }
+}
+
+TEST_F(MainScreen, GoesOnWithDamagedLanguageFilesAndAConfigurationThatCannotBeWritten) {
+  const AppPaths paths = data.Paths();
+  struct Fault {
+    QString file;
+    bool words;  // whether the pages still have their words
+  };
+  for (const Fault &fault :
+       {Fault{paths.LangsPath(), true}, Fault{paths.LanguageDataPath("ENGLISH"), false}, Fault{paths.IniPath(), true}}) {
+    const QString kept = fault.file + ".whole";
+    ASSERT_TRUE(QFile::rename(fault.file, kept)) << fault.file.toStdString();
+    if (fault.file == paths.IniPath()) {
+      ASSERT_TRUE(QDir().mkpath(fault.file));  // nothing can be written where a folder stands
+    } else {
+      QFile damaged(fault.file);
+      ASSERT_TRUE(damaged.open(QIODevice::WriteOnly));
+      damaged.write("no store any more");
+    }
+    notices.clear();
+    Open();
+    EXPECT_FALSE(notices.isEmpty()) << fault.file.toStdString();
+    EXPECT_EQ(screen->Pages().Current(), 18);
+    EXPECT_EQ(Caption("lblTithiVal") == "Shukla Dvadashi", fault.words) << fault.file.toStdString();
+    Press("flpCredits");
+    EXPECT_EQ(screen->Pages().Current(), 5);
+    screen.reset();
+    if (QFileInfo(fault.file).isDir())
+      QDir(fault.file).removeRecursively();
+    else
+      QFile::remove(fault.file);
+    ASSERT_TRUE(QFile::rename(kept, fault.file));
+  }
+}
+
+TEST_F(MainScreen, AsksForTheEndEvenWhereItsPlaceCannotBeKept) {
+  class FullDisk : public MemoryUserSettings {
+   public:
+    void SetValue(const QString &, const QString &, const QString &) override { throw StoreError("The disk is full."); }
+  } full;
+  frmMain other(data.Paths(), full, boxes);
+  other.SetClock([] { return Moment; });
+  other.show();
+  other.Load();
+  other.close();
+  EXPECT_EQ(questions.size(), 1);
+  EXPECT_TRUE(notices.contains("The disk is full."));
+}
+
+TEST_F(MainScreen, TheSamplePersonFollowsTheSettingsToo) {
+  Database::OpenDatabase(data.Paths().RecosPath())->Execute("DELETE FROM Person");
+  Open();
+  screen->Pages().ShowPage(9);
+  const QString ascendant = Caption("lblDegrees0");
+  InModal<frmSettings>([](frmSettings &wizard) {
+    wizard.findChild<QAbstractButton *>("optSayan")->click();
+    for (int step = 0; step < 3; ++step) wizard.findChild<QAbstractButton *>("flpNextFrame")->click();
+    wizard.findChild<QAbstractButton *>("flpFinish")->click();
+  });
+  Press("flpSettings");
+  EXPECT_NE(Caption("lblDegrees0"), ascendant);
+}
+
+TEST_F(MainScreen, ALeftPageLeavesNothingBehind) {
+  Open();
+  screen->Pages().ShowPage(19);
+  auto *text = Find<QTextEdit>("rtf");
+  Press("fflpHome");
+  EXPECT_EQ(text->toPlainText(), "");
+  screen->Pages().ShowPage(9);
+  QWidget *planets = screen->Pages().CurrentWidget();
+  const QString ascendant = Caption("lblDegrees0");
+  screen->Pages().ShowPage(10);
+  EXPECT_EQ(screen->Pages().CurrentWidget(), planets) << "one table for both";
+  EXPECT_NE(Caption("lblDegrees0"), ascendant);
+  QWidget broken;
+  screen->Pages().AddPage(23, {&broken, [] { throw std::runtime_error("broken page"); }, {}});
+  screen->Pages().ShowPage(23);
+  EXPECT_EQ(Caption("lblMainChartName"), screen->Pages().TitleOf(23));
+  EXPECT_FALSE(screen->Pages().TitleOf(23).isEmpty());
+  QApplication::processEvents();
+  EXPECT_EQ(notices, QStringList{"broken page"});
+}
+
+TEST_F(MainScreen, ShowsTheWholeMomentOnASmallScreen) {
+  Open();
+  screen->resize(800, 600);
+  for (int i = 0; i < 3; ++i) QApplication::processEvents();
+  const auto *moment = Find<ElidedLabel>("lblNowInfo");
+  EXPECT_TRUE(moment->Holds(moment->contentsRect().width()));
+  EXPECT_EQ(Caption("nowNext"), "Trayodashi 4:58");
+  const auto *rahuKaal = Find<QLabel>("lblRahuKaalVal");
+  EXPECT_LE(rahuKaal->fontMetrics().horizontalAdvance(rahuKaal->text()), rahuKaal->width()) << "on one line";
+}
+
+TEST(SetFontsSymbols, ALaterLanguageKeepsThoseOfTheFirst) {
+  class Tongue : public TextDb {
+   public:
+    explicit Tongue(QString name) : tongue(std::move(name)) {}
+    TextRow Find(const QString &, const QString &head, const QString &category) override { return {true, false, tongue + category + head}; }
+
+   private:
+    QString tongue;
+  };
+  MemoryUserSettings settings;
+  clsPlanets chart(settings);
+  for (const char *tongue : {"a", "b"}) {
+    chart.setTextDB(std::make_shared<Tongue>(tongue), nullptr);
+    const std::pair<int, const char *> kinds[] = {{0, ""},          {1, "aSymbols:"}, {2, "aSymbols:"}, {3, "aSymbols/"},
+                                                  {4, "aSymbols-"}, {5, "aSymbols+"}, {6, ""}};
+    for (const auto &[kind, symbol] : kinds) EXPECT_EQ(SetFonts::GetSymbol(kind, chart), symbol) << tongue << kind;
+  }
+}
+
+TEST(SkyDialDots, NearPlanetsStandBelowEachOther) {
+  EXPECT_EQ(SkyDial::StepsInward({10, 100, 13, 16, 250}, 7), (std::vector<int>{0, 0, 1, 2, 0}));
+  EXPECT_EQ(SkyDial::StepsInward({359, 2}, 7), (std::vector<int>{1, 0})) << "the circle closes at Aries";
+}
+
+TEST(ThemeColours, TextStandsOutFromItsGround) {
+  const auto luminance = [](const QColor &colour) {
+    const auto part = [](double c) { return c <= 0.03928 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
+    return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF()) + 0.0722 * part(colour.blueF());
+  };
+  const QPalette before = qApp->palette();
+  for (const bool dark : {true, false}) {
+    QPalette desktop;
+    desktop.setColor(QPalette::Window, dark ? Qt::black : Qt::white);
+    qApp->setPalette(desktop);
+    Theme::Apply(*qApp);
+    const Theme &theme = Theme::Current();
+    ASSERT_EQ(theme.dark, dark);
+    const ChartPalette &chart = theme.chart;
+    for (const QColor &ground : {chart.card, chart.paper, theme.tint, theme.selection})
+      for (const QColor &text : {chart.ink, chart.muted, chart.maroon, chart.accent, chart.number, theme.bad, theme.good}) {
+        const double a = luminance(text) + 0.05, b = luminance(ground) + 0.05;
+        EXPECT_GE(std::max(a, b) / std::min(a, b), 4.5) << text.name().toStdString() << " on " << ground.name().toStdString();
+      }
+  }
+  qApp->setPalette(before);
+  Theme::Apply(*qApp);
 }

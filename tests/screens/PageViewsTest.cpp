@@ -96,7 +96,11 @@ TEST_F(PageViewsTest, FillsEveryElementAndClipsNone) {
   };
   const Case cases[] = {
       {"framPlPos",
-       [] { return new PlanetTableView(PlanetTableView::Chart::Today); },
+       [] {
+         auto *view = new PlanetTableView;
+         view->SetChart(PlanetTableView::Chart::Today);
+         return view;
+       },
        {{"lblPlanets", 13},
         {"lblRashi", 13},
         {"lblDegrees", 13},
@@ -197,7 +201,7 @@ TEST_F(PageViewsTest, FillsEveryElementAndClipsNone) {
 }
 
 TEST_F(PageViewsTest, PlanetTableTellsMotionAndDignityByRole) {
-  PlanetTableView page(PlanetTableView::Chart::Birth);
+  PlanetTableView page;
   Show(page);
   const clsPlanets &chart = session.BirthChart();
   EXPECT_TRUE(Text(page, "lblDir0").isEmpty());

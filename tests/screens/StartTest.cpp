@@ -118,6 +118,17 @@ TEST(Splash, AMissingDataFileEndsTheProgram) {
   }
 }
 
+TEST(Splash, ADamagedListOfLanguagesDoesNotEndTheProgram) {
+  Start start;
+  {
+    QFile damaged(start.data.File("COMMON/LANGS.Dat"));
+    ASSERT_TRUE(damaged.open(QIODevice::WriteOnly));
+    damaged.write("no store any more");
+  }
+  start.Run();
+  EXPECT_EQ(start.steps, QStringList({"setup", "main"}));
+}
+
 TEST(Splash, AFaultOfTheMainScreenIsToldAndEndsTheProgram) {
   DataFolder data;
   MemoryUserSettings settings;

@@ -5,6 +5,7 @@
 
 #include "analysis/KundaliPage.h"
 #include "analysis/PlanetTablePage.h"
+#include "analysis/PredictionPages.h"
 #include "analysis/SelvaniDailyMod.h"
 #include "analysis/TimeText.h"
 #include "content/Languages.h"
@@ -64,6 +65,33 @@ TEST_F(SessionTest, ShowsTheSamplePersonsDay) {
   EXPECT_TRUE(FillPlanets(session.BirthChart()).rows[0].lblDir.isEmpty());
   EXPECT_TRUE(notices.Seen().empty()) << notices.Seen().front().text.toStdString();
   EXPECT_EQ(remembered, QStringList{"Anvik Telvar"});
+}
+
+// Without an ayanamsha the ascendant's entries are alike, as a planet's are that stands still.
+TEST_F(SessionTest, TheAscendantNeverReadsRetrograde) {
+  settings.SetIntValue(SettingKeys::AyanType, 12);
+  ASSERT_TRUE(session.LoadLastPerson({}));
+  EXPECT_EQ(session.BirthChart().Direction(0), session.BirthChart().Direction(1));
+}
+
+TEST_F(SessionTest, HandsTheSameTextsToThePaper) {
+  ASSERT_TRUE(session.LoadLastPerson({}));
+  session.BuildAnalysis(At(2026, 11, 25, 9, 0));
+  const clsPlanets &today = session.TodayChart();
+  QStringList printed, bold;
+  const PrintMyText paper = [&](const QString &text, bool isBold) { (isBold ? bold : printed) << text; };
+
+  const QString weekday = WeekdayText(today, 4, &paper), yoga = SuryaYogaText(today, 27, &paper);
+  EXPECT_EQ(printed, (QStringList{weekday, yoga}));
+  EXPECT_TRUE(SuryaYogaText(today, 28, &paper).isEmpty());
+  EXPECT_EQ(printed.size(), 2) << "no yoga, nothing printed";
+  EXPECT_TRUE(bold.isEmpty());
+
+  printed.clear();
+  const PredictionPage yogas = ShowYogas(today, &paper);
+  ASSERT_EQ(yogas.lines.size(), 4u);
+  EXPECT_EQ(bold, (QStringList{yogas.lines[0].text, yogas.lines[2].text}));
+  EXPECT_EQ(printed, (QStringList{yogas.lines[1].text, yogas.lines[3].text}));
 }
 
 TEST_F(SessionTest, LoadsByNameOrLeavesAllAsItWas) {

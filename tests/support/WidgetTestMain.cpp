@@ -6,7 +6,8 @@
 
 int main(int argc, char **argv) {
   testing::InitGoogleTest(&argc, argv);
-  qputenv("QT_QPA_PLATFORM", "offscreen");
+  // A real display when the caller names one, as under Xvfb.
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   const QApplication application(argc, argv);
   return RUN_ALL_TESTS();
 }

@@ -118,10 +118,15 @@ void CaptionTable::SetRunningRow(int row) {
   update();
 }
 
-void CaptionTable::ApplyFonts(const SetFonts &fonts) {
+void CaptionTable::ApplyFonts(const SetFonts &fonts, bool large) {
   for (QLabel *head : heads)
     if (head) fonts.SetSmallFont(*head);
-  for (QWidget *cell : cells) fonts.SetSmallFont(*cell);
+  for (QWidget *cell : cells) {
+    if (large)
+      fonts.SetNormalFont(*cell);
+    else
+      fonts.SetSmallFont(*cell);
+  }
   FitRows();
 }
 

@@ -46,7 +46,8 @@ class CaptionTable : public QWidget {
   // Rows of the full height always, for a table of few rows.
   void SetRoomy();
 
-  void ApplyFonts(const SetFonts &fonts);
+  // large: in the normal size instead of the small one, where a page has much room for few rows.
+  void ApplyFonts(const SetFonts &fonts, bool large = false);
 
   QSize minimumSizeHint() const override;
 

@@ -8,6 +8,7 @@
 
 #include "analysis/SelvaniDailyMod.h"
 #include "content/SetFonts.h"
+#include "content/ShellFonts.h"
 #include "content/Theme.h"
 #include "content/pages/CaptionTable.h"
 #include "content/pages/Card.h"
@@ -93,6 +94,7 @@ CreditsView::CreditsView(const QString &version, const QString &webAddress, QWid
   layout->addWidget(parts, 1);
   layout->addStretch(0);
   PageScroll::Fill(this, content);
+  ApplyFonts(ShellFonts());
 }
 
 void CreditsView::Fill(SelvaniDailyMod &session) {

@@ -93,6 +93,6 @@ void DashaRow::paintEvent(QPaintEvent *) {
   painter.setFont(font);
   painter.drawText(words, Qt::AlignVCenter | Qt::AlignLeft, text());
   painter.setFont(this->font());
-  painter.setPen(runs ? theme.chart.saffron : theme.chart.muted);
+  painter.setPen(runs ? theme.chart.accent : theme.chart.muted);
   painter.drawText(words.adjusted(0, 0, -Side - head, 0), Qt::AlignVCenter | Qt::AlignRight, note);
 }

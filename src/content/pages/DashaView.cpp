@@ -17,7 +17,6 @@
 #include "content/pages/Card.h"
 #include "content/pages/DashaRow.h"
 #include "content/pages/PageScroll.h"
-#include "content/pages/PeriodClock.h"
 #include "content/pages/SpanStrip.h"
 
 namespace {
@@ -168,10 +167,11 @@ void DashaView::ShowStrip() {
   span.from = double(records.front().Start.toSecsSinceEpoch());
   span.to = double(EndOf(records.back()).toSecsSinceEpoch());
   span.moment = double(session->AnalysisMoment().toSecsSinceEpoch());
-  span.momentWord = PeriodClock::Word(session->AnalysisMoment());
+  // As fine as the strip: a day where it spans years, the hour only where it spans days.
+  const qint64 length = records.front().Start.daysTo(EndOf(records.back()));
+  span.momentWord = session->AnalysisMoment().toString(length > 3 ? QStringLiteral("d MMM yyyy") : QStringLiteral("d MMM, H:mm"));
   const auto caption = [&](const QDateTime &date) {
-    const qint64 days = records.front().Start.daysTo(EndOf(records.back()));
-    return date.toString(days > 3000 ? QStringLiteral("yyyy") : days > 60 ? QStringLiteral("M/yyyy") : QStringLiteral("d/M"));
+    return date.toString(length > 3000 ? QStringLiteral("yyyy") : length > 60 ? QStringLiteral("M/yyyy") : QStringLiteral("d/M"));
   };
   for (size_t i = 0; i < records.size(); ++i) {
     const double begin = double(records[i].Start.toSecsSinceEpoch());

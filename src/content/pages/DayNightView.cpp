@@ -11,6 +11,10 @@
 #include "content/pages/PageScroll.h"
 #include "content/pages/SideBySide.h"
 
+namespace {
+constexpr int RoomyHeight = 560, RoomyWidth = 840;  // pixels from which the rows take the normal size
+}
+
 DayNightView::DayNightView(const Names &names, std::vector<CaptionTable::Column> columns, int timeColumn, int rowsOfHalf, QWidget *parent)
     : PageView(parent), halfRows(rowsOfHalf), timeCol(timeColumn), strip(new SpanStrip), note(new QLabel), beforeSunrise(new QLabel) {
   setObjectName(names.page);
@@ -79,11 +83,20 @@ void DayNightView::SetStrip(SpanStrip::Span span, const QString &name) {
 void DayNightView::SetBeforeSunrise(bool before) { beforeSunrise->setVisible(before); }
 
 void DayNightView::ApplyFonts(const SetFonts &fonts) {
+  fontsShown = fonts;
+  roomyShown = IsRoomy();
   for (size_t half = 0; half < 2; ++half) {
     fonts.SetSmallFont(*titles[half]);
-    tables[half]->ApplyFonts(fonts);
+    tables[half]->ApplyFonts(fonts, roomyShown);
   }
   fonts.SetSmallFont(*strip);
   fonts.SetSmallFont(*note);
   fonts.SetSmallFont(*beforeSunrise);
+}
+
+bool DayNightView::IsRoomy() const { return height() >= RoomyHeight && width() >= RoomyWidth; }
+
+void DayNightView::resizeEvent(QResizeEvent *event) {
+  PageView::resizeEvent(event);
+  if (IsRoomy() != roomyShown) ApplyFonts(SetFonts(fontsShown));
 }

@@ -5,6 +5,7 @@
 #include <array>
 #include <vector>
 
+#include "content/SetFonts.h"
 #include "content/pages/CaptionTable.h"
 #include "content/pages/PageView.h"
 #include "content/pages/SpanStrip.h"
@@ -17,6 +18,8 @@ class DayNightView : public PageView {
   void ApplyFonts(const SetFonts &fonts) override;
 
  protected:
+  void resizeEvent(QResizeEvent *event) override;
+
   // titles, heads: object names of the two cards' titles and of their time columns' heads.
   struct Names {
     QString page;
@@ -42,6 +45,10 @@ class DayNightView : public PageView {
   void SetBeforeSunrise(bool before);
 
  private:
+  bool IsRoomy() const;
+
+  SetFonts fontsShown;
+  bool roomyShown = false;
   int halfRows;
   int timeCol;
   QString noteWords;

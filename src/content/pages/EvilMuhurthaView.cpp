@@ -18,6 +18,8 @@
 
 namespace {
 
+constexpr int RoomyHeight = 560, RoomyWidth = 600;  // pixels from which the rows take the normal size
+
 enum Column { Name, Begin, End, Mark };
 
 // The elements of each row, less the ending of the column.
@@ -112,6 +114,15 @@ void EvilMuhurthaView::Fill(SelvaniDailyMod &session) {
 }
 
 void EvilMuhurthaView::ApplyFonts(const SetFonts &fonts) {
-  table->ApplyFonts(fonts);
+  fontsShown = fonts;
+  roomyShown = IsRoomy();
+  table->ApplyFonts(fonts, roomyShown);
   for (QWidget *caption : std::initializer_list<QWidget *>{description, stripTitle, strip}) fonts.SetSmallFont(*caption);
+}
+
+bool EvilMuhurthaView::IsRoomy() const { return height() >= RoomyHeight && width() >= RoomyWidth; }
+
+void EvilMuhurthaView::resizeEvent(QResizeEvent *event) {
+  PageView::resizeEvent(event);
+  if (IsRoomy() != roomyShown) ApplyFonts(SetFonts(fontsShown));
 }

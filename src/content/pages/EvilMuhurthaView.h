@@ -4,6 +4,7 @@
 
 #include <array>
 
+#include "content/SetFonts.h"
 #include "content/pages/PageView.h"
 
 class CaptionTable;
@@ -20,7 +21,14 @@ class EvilMuhurthaView : public PageView {
   void Fill(SelvaniDailyMod &session) override;
   void ApplyFonts(const SetFonts &fonts) override;
 
+ protected:
+  void resizeEvent(QResizeEvent *event) override;
+
  private:
+  bool IsRoomy() const;
+
+  SetFonts fontsShown;
+  bool roomyShown = false;
   CaptionTable *table;
   QLabel *description;
   QLabel *stripTitle;

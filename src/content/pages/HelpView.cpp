@@ -10,6 +10,7 @@
 
 #include "content/SetFonts.h"
 #include "content/Theme.h"
+#include "content/pages/PageScroll.h"
 
 namespace {
 
@@ -36,7 +37,7 @@ HelpView::HelpView(const QString &path, QWidget *parent) : PageView(parent), fil
   browser->setOpenExternalLinks(false);
   browser->setTabChangesFocus(false);
   auto *layout = new QVBoxLayout(this);
-  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setContentsMargins(PageScroll::Ring, PageScroll::Ring, PageScroll::Ring, PageScroll::Ring);
   layout->addWidget(browser);
 }
 

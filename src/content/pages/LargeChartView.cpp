@@ -11,11 +11,12 @@
 #include "content/SetFonts.h"
 #include "content/Theme.h"
 #include "content/pages/ChartFill.h"
+#include "content/pages/PageScroll.h"
 
 LargeChartView::LargeChartView(QWidget *parent) : PageView(parent) {
   setObjectName("framKundali");
   auto *column = new QVBoxLayout(this);
-  column->setContentsMargins(0, 0, 0, 0);
+  column->setContentsMargins(PageScroll::Ring, PageScroll::Ring, PageScroll::Ring, PageScroll::Ring);
   auto *card = new QFrame(this);
   card->setProperty("role", "card");
   column->addWidget(card);

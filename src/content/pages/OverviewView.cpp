@@ -10,11 +10,15 @@
 #include "analysis/SelvaniDailyMod.h"
 #include "chart/Kundali.h"
 #include "content/SetFonts.h"
+#include "content/Skin.h"
 #include "content/Theme.h"
 #include "content/pages/ChartFill.h"
+#include "content/pages/PageScroll.h"
 
 namespace {
 
+constexpr int HeadHeight = 28;   // pixels of every card's head line
+constexpr int NarrowPage = 620;  // pixels of width, below which the facts take the small size
 constexpr int BirthChartPage = 6, TransitChartPage = 8, PanchangPageNumber = 13;
 
 QFrame *Card(QWidget *parent) {
@@ -27,8 +31,8 @@ QFrame *Card(QWidget *parent) {
 
 OverviewView::OverviewView(QWidget *parent) : PageView(parent) {
   setObjectName("framMainPage");
-  auto *columns = new QHBoxLayout(this);
-  columns->setContentsMargins(0, 0, 0, 0);
+  columns = new QHBoxLayout(this);
+  columns->setContentsMargins(PageScroll::Ring, PageScroll::Ring, PageScroll::Ring, PageScroll::Ring);
   columns->setSpacing(2 * Grid::Gap);
 
   auto *charts = Card(this);
@@ -40,6 +44,7 @@ OverviewView::OverviewView(QWidget *parent) : PageView(parent) {
     info->setProperty("role", "caption");
     line->addWidget(Label(headName, "head"));
     line->addStretch();
+    line->addStrut(HeadHeight);
     line->addWidget(info);
     chartColumn->addLayout(line);
     auto *chart = new Kundali(charts);
@@ -59,6 +64,8 @@ OverviewView::OverviewView(QWidget *parent) : PageView(parent) {
   lblTodPanchang->setProperty("role", "headlink");
   lblTodPanchang->setCursor(Qt::PointingHandCursor);
   lblTodPanchang->setFlat(true);
+  lblTodPanchang->setIcon(Skin::Picture(QStringLiteral("ctlRight")));
+  lblTodPanchang->setLayoutDirection(Qt::RightToLeft);  // the arrow follows the words
   connect(lblTodPanchang, &QPushButton::clicked, this, [this] { emit GoToPage(PanchangPageNumber); });
 
   auto *facts = new QVBoxLayout;
@@ -93,8 +100,9 @@ QWidget *OverviewView::FactsCard(QWidget *head, const QList<RowNames> &rows) {
   grid->setContentsMargins(Grid::CardPadding, 12, Grid::CardPadding, 8);
   grid->setHorizontalSpacing(2 * Grid::Gap);
   grid->setVerticalSpacing(0);
-  grid->addWidget(head, 0, 0, 1, 2, Qt::AlignLeft | Qt::AlignVCenter);
-  grid->setRowMinimumHeight(0, 30);
+  grid->addWidget(head, 0, 0, 1, 2, Qt::AlignLeft | Qt::AlignAbsolute | Qt::AlignVCenter);
+  grid->setRowMinimumHeight(0, HeadHeight);
+  factGrids << grid;
   int line = 1;
   for (const RowNames &row : rows) {
     if (line > 1) {
@@ -122,22 +130,42 @@ void OverviewView::Fill(SelvaniDailyMod &session) {
   lblTodPanchang->setText(page.lblTodPanchang);
   const clsPlanets &birth = session.BirthChart();
   chartInfo->setText(QStringLiteral("%1 %2").arg(birth.AyanamshName(), clsPlanets::DecToDeg(birth.PlanetLongi(13)).section(':', 0, 1)));
-  momentInfo->setText(session.TodayChart().clsPerson().GetBirthDate().toString(QStringLiteral("d MMM yyyy, H:mm")));
+  moment = session.TodayChart().clsPerson().GetBirthDate();
   kunBirth->setAccessibleName(page.lblBKundali);
   kunTransit->setAccessibleName(page.lblTransKundali);
 }
 
 void OverviewView::ApplyFonts(const SetFonts &fonts) {
+  fontsShown = fonts;
+  narrowShown = IsNarrow();
   for (const char *head : {"lblBKundali", "lblTransKundali", "lblOthFactors"}) fonts.SetSubHeadFont(*labels.value(QLatin1String(head)));
   fonts.SetSubHeadFont(*lblTodPanchang);
+  int captionWidth = 0;
   for (auto it = labels.cbegin(); it != labels.cend(); ++it) {
     if (it.value()->property("role") == "head") continue;
     // On a small screen the facts keep to their lines in the small size.
-    QFont font = width() < 620 ? fonts.SmallFont() : fonts.NormalFont();
-    font.setBold(it.value()->property("role") != "caption");
+    QFont font = narrowShown ? fonts.SmallFont() : fonts.NormalFont();
+    const bool isCaption = it.value()->property("role") == "caption";
+    font.setBold(!isCaption);
     it.value()->setFont(font);
+    if (isCaption) captionWidth = std::max(captionWidth, QFontMetrics(font).horizontalAdvance(it.value()->text()) + 2);
   }
+  for (QGridLayout *grid : factGrids) {
+    grid->setColumnMinimumWidth(0, captionWidth);  // the values of both cards begin below each other
+    grid->setHorizontalSpacing(narrowShown ? Grid::Gap : 2 * Grid::Gap);
+  }
+  // The year has its place in the header; the head line would hold the narrow card open for it.
+  momentInfo->setText(moment.toString(narrowShown ? QStringLiteral("d MMM, H:mm") : QStringLiteral("d MMM yyyy, H:mm")));
+  columns->setStretch(0, narrowShown ? 23 : 27);
+  columns->setStretch(1, narrowShown ? 30 : 26);
   for (QLabel *info : {chartInfo, momentInfo}) fonts.SetSmallFont(*info);
   fonts.SetKundaliFont(*kunBirth);
   fonts.SetKundaliFont(*kunTransit);
+}
+
+bool OverviewView::IsNarrow() const { return width() < NarrowPage; }
+
+void OverviewView::resizeEvent(QResizeEvent *event) {
+  PageView::resizeEvent(event);
+  if (IsNarrow() != narrowShown) ApplyFonts(SetFonts(fontsShown));
 }

@@ -2,11 +2,15 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #pragma once
 
+#include <QDateTime>
 #include <QHash>
 
+#include "content/SetFonts.h"
 #include "content/pages/PageView.h"
 
 class Kundali;
+class QGridLayout;
+class QHBoxLayout;
 class QLabel;
 class QPushButton;
 
@@ -20,6 +24,9 @@ class OverviewView : public PageView {
   void Fill(SelvaniDailyMod &session) override;
   void ApplyFonts(const SetFonts &fonts) override;
 
+ protected:
+  void resizeEvent(QResizeEvent *event) override;
+
  private:
   struct RowNames {
     const char *head, *value, *role;
@@ -28,6 +35,13 @@ class OverviewView : public PageView {
   QLabel *Label(const char *name, const char *role);
   QWidget *FactsCard(QWidget *head, const QList<RowNames> &rows);
 
+  bool IsNarrow() const;
+
+  SetFonts fontsShown;
+  bool narrowShown = false;
+  QDateTime moment;
+  QHBoxLayout *columns;
+  QList<QGridLayout *> factGrids;
   QHash<QString, QLabel *> labels;
   QPushButton *lblTodPanchang;
   QLabel *chartInfo, *momentInfo;

@@ -14,9 +14,9 @@ PageScroll::PageScroll(QWidget *content, QWidget *parent) : QScrollArea(parent) 
   content->setAutoFillBackground(false);
   viewport()->setAutoFillBackground(false);
   setFocusPolicy(Qt::TabFocus);
-  setStyleSheet(QStringLiteral("PageScroll { background: transparent; border: 2px solid transparent; border-radius: %1px; }"
+  setStyleSheet(QStringLiteral("PageScroll { background: transparent; border: %3px solid transparent; border-radius: %1px; }"
                                "PageScroll:focus { border-color: %2; }")
-                    .arg(QString::number(Grid::CardRadius + 2), Theme::Current().chart.saffron.name()));
+                    .arg(QString::number(Grid::CardRadius + Ring), Theme::Current().chart.saffron.name(), QString::number(Ring)));
 }
 
 PageScroll *PageScroll::Fill(QWidget *page, QWidget *content) {

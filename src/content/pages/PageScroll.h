@@ -9,6 +9,8 @@ class PageScroll : public QScrollArea {
   Q_OBJECT
 
  public:
+  static constexpr int Ring = 2;  // pixels around the content that the mark of the focus takes; other pages keep them free
+
   explicit PageScroll(QWidget *content, QWidget *parent = nullptr);
 
   // Fills the page with the content.

@@ -12,7 +12,7 @@
 
 namespace {
 constexpr int Padding = 14;
-constexpr int Icon = 36;
+constexpr int LeastIcon = 36, MostIcon = 64;
 }  // namespace
 
 PageTile::PageTile(const QString &picture, QWidget *parent) : QAbstractButton(parent), pictureName(picture), titleFont(font()) {
@@ -34,7 +34,7 @@ void PageTile::ApplyFonts(const SetFonts &fonts) {
   titleFont = fonts.NormalFont();
   titleFont.setBold(true);
   fonts.SetSmallFont(*this);
-  setMaximumHeight(sizeHint().height() * 3 / 2);
+  setMaximumHeight(sizeHint().height() * 3);
   updateGeometry();
 }
 
@@ -66,8 +66,9 @@ void PageTile::paintEvent(QPaintEvent *) {
   QRect words = rect().adjusted(Padding, Padding, -Padding, -Padding);
   const QIcon icon = Skin::Picture(pictureName, isDown() ? Skin::State::Down : Skin::State::Normal);
   if (!icon.isNull()) {
-    icon.paint(&painter, QRect(words.left(), rect().center().y() - Icon / 2, Icon, Icon));
-    words.setLeft(words.left() + Icon + Padding);
+    const int side = std::clamp(height() / 3, LeastIcon, MostIcon);
+    icon.paint(&painter, QRect(words.left(), rect().center().y() - side / 2, side, side));
+    words.setLeft(words.left() + side + Padding);
   }
   const QFontMetrics titles(titleFont);
   const QRect helpRoom = fontMetrics().boundingRect(QRect(0, 0, words.width(), words.height()), Qt::TextWordWrap, help);

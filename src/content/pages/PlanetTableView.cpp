@@ -21,9 +21,8 @@ CaptionTable::Tone ToneOfDignity(const QString &mark) {
 
 }  // namespace
 
-PlanetTableView::PlanetTableView(Chart which, QWidget *parent) : PageView(parent), chart(which) {
+PlanetTableView::PlanetTableView(QWidget *parent) : PageView(parent) {
   setObjectName(QStringLiteral("framPlPos"));
-  setAccessibleName(which == Chart::Birth ? tr("Planets at birth") : tr("Planets now"));
   table = new CaptionTable({{.element = QStringLiteral("imgPlanet"), .picture = true},
                             {.element = QStringLiteral("lblPlanets"), .head = QStringLiteral("lblPlntHead"), .strong = true},
                             {.element = QStringLiteral("lblRashi"), .head = QStringLiteral("lblRashiHead")},
@@ -38,6 +37,12 @@ PlanetTableView::PlanetTableView(Chart which, QWidget *parent) : PageView(parent
   card->Body()->addWidget(table, 1);
   card->Body()->addStretch(0);
   PageScroll::Fill(this, card);
+  SetChart(Chart::Birth);
+}
+
+void PlanetTableView::SetChart(Chart which) {
+  chart = which;
+  setAccessibleName(which == Chart::Birth ? tr("Planets at birth") : tr("Planets now"));
 }
 
 void PlanetTableView::Fill(SelvaniDailyMod &session) {

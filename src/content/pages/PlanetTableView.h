@@ -13,12 +13,15 @@ class PlanetTableView : public PageView {
  public:
   enum class Chart { Birth, Today };
 
-  explicit PlanetTableView(Chart which, QWidget *parent = nullptr);
+  explicit PlanetTableView(QWidget *parent = nullptr);
+
+  // Whose planets the next filling shows; those of the birth at first.
+  void SetChart(Chart which);
 
   void Fill(SelvaniDailyMod &session) override;
   void ApplyFonts(const SetFonts &fonts) override;
 
  private:
-  Chart chart;
+  Chart chart = Chart::Birth;
   CaptionTable *table;
 };

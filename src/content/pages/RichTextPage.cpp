@@ -8,11 +8,12 @@
 
 #include "content/SetFonts.h"
 #include "content/Theme.h"
+#include "content/pages/PageScroll.h"
 #include "content/pages/RichTextView.h"
 
 RichTextPage::RichTextPage(QWidget *parent) : QWidget(parent) {
   auto *column = new QVBoxLayout(this);
-  column->setContentsMargins(0, 0, 0, 0);
+  column->setContentsMargins(PageScroll::Ring, PageScroll::Ring, PageScroll::Ring, PageScroll::Ring);
   auto *card = new QFrame(this);
   card->setProperty("role", "card");
   column->addWidget(card);

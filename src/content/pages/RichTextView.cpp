@@ -37,9 +37,9 @@ RichTextView::RichTextView(QWidget *parent) : PageView(parent), area(new QTextEd
   area->setFocusPolicy(Qt::StrongFocus);
   area->setTabChangesFocus(true);
   const ChartPalette &colours = Theme::Current().chart;
-  area->setStyleSheet(QStringLiteral("QTextEdit { background: %1; border: 1px solid %2; border-radius: %3px; }"
-                                     "QTextEdit:focus { border: 2px solid %4; padding: 4px 7px; }")
-                          .arg(colours.card.name(), colours.line.name(), QString::number(Grid::CardRadius), colours.saffron.name()));
+  area->setStyleSheet(QStringLiteral("QTextEdit { background: %1; border: 2px solid transparent; border-radius: %2px; padding: 4px 7px; }"
+                                     "QTextEdit:focus { border-color: %3; }")
+                          .arg(colours.card.name(), QString::number(Grid::CardRadius), colours.saffron.name()));
   area->installEventFilter(this);
   area->viewport()->installEventFilter(this);
   auto *layout = new QVBoxLayout(this);

@@ -79,6 +79,7 @@ void SpanStrip::paintEvent(QPaintEvent *) {
   if (shown.moment < shown.from || shown.moment > shown.to) return;
   painter.setPen(QPen(theme.chart.saffron, 3, Qt::SolidLine, Qt::RoundCap));
   painter.drawLine(QPointF(At(shown.moment), top - 1), QPointF(At(shown.moment), top + bar + 1));
+  painter.setPen(theme.chart.accent);
   QFont bold = font();
   bold.setBold(true);
   painter.setFont(bold);
@@ -98,17 +99,20 @@ void SpanStrip::PaintParts(QPainter &painter, double top) const {
     painter.drawRoundedRect(room, 5, 5);
     painter.setPen(InkOf(part.tone));
     const double wide = fontMetrics().horizontalAdvance(part.name);
-    if (wide + 8 <= room.width()) {
-      Write(painter, room.center().x(), room.center().y() - text / 2.0, part.name);
+    QRectF inside = room;
+    // A name makes way for the line of the moment, to the wider side of it.
+    if (shown.moment > part.begin && shown.moment < part.end && std::abs(At(shown.moment) - room.center().x()) < wide / 2 + 4) {
+      if (At(shown.moment) > room.center().x())
+        inside.setRight(At(shown.moment));
+      else
+        inside.setLeft(At(shown.moment));
+    }
+    if (wide + 8 <= inside.width()) {
+      Write(painter, inside.center().x(), inside.center().y() - text / 2.0, part.name);
     } else if (shown.namesAbove) {
       const bool meets = room.center().x() - wide / 2 < usedTo + 8;
       const QRectF written = Write(painter, room.center().x(), meets ? 0 : text + 2, part.name);
       if (!meets) usedTo = written.right();
-    } else {
-      // As many letters as there is room for.
-      QString start = part.name;
-      while (!start.isEmpty() && fontMetrics().horizontalAdvance(start) + 4 > room.width()) start.chop(1);
-      Write(painter, room.center().x(), room.center().y() - text / 2.0, start);
     }
   }
 }

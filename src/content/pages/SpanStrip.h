@@ -30,7 +30,7 @@ class SpanStrip : public QWidget {
     std::vector<Tick> ticks;  // the outer two are always written, the others where there is room
     double moment = 0;        // not shown where it lies outside
     QString momentWord;
-    bool namesAbove = false;  // names too long for their part stand above it; otherwise they are cut short
+    bool namesAbove = false;  // names too long for their part stand above it; otherwise they are left out
   };
 
   explicit SpanStrip(QWidget *parent = nullptr);
