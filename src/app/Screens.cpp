@@ -7,14 +7,20 @@
 #include <QPixmap>
 #include <cstdio>
 
+#include "app/Maker.h"
 #include "app/MessageBoxes.h"
 #include "app/frmDate.h"
 #include "app/frmMain.h"
 #include "content/contentManager.h"
 #include "content/frmSettings.h"
+#include "persons/frmEditLongLat.h"
+#include "persons/frmManageUsers.h"
 #include "persons/frmPeople.h"
 #include "platform/AppPaths.h"
 #include "platform/UserSettings.h"
+#include "reports/DailyReport.h"
+#include "reports/frmDayPrint.h"
+#include "reports/frmPratyan.h"
 
 namespace {
 
@@ -80,6 +86,23 @@ int WriteScreens(const QString &folder, const AppPaths &paths, MessageBoxes &box
     people.SetCurrent("Anvik Telvar");
     people.show();
     writer.Write(people, QStringLiteral("frmPeople") + suffix);
+    if (const std::shared_ptr<Database> &persons = screen.Session().OpenStores().personDb) {
+      frmManageUsers manager(persons, paths.DailyPath());
+      manager.show();
+      writer.Write(manager, QStringLiteral("frmManageUsers") + suffix);
+      frmEditLongLat options(persons, settings, clsIni(paths));
+      options.show();
+      writer.Write(options, QStringLiteral("frmEditLongLat") + suffix);
+      DailyReport report(screen.Session(), paths, FindLanguage(paths, QStringLiteral("English")).value_or(LanguageRow()),
+                         Maker::WebAddress);
+      frmDayPrint topics(report);
+      topics.show();
+      writer.Write(topics, QStringLiteral("frmDayPrint") + suffix);
+      frmPratyan tree;
+      tree.FindPratyantara(screen.Session().BirthChart(), Moment);
+      tree.show();
+      writer.Write(tree, QStringLiteral("frmPratyan") + suffix);
+    }
     frmSettings wizard(settings, clsIni(paths));
     wizard.show();
     writer.Write(wizard, QStringLiteral("frmSettings") + suffix);
