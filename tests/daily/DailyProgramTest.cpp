@@ -290,6 +290,23 @@ TEST_F(DailyProgram, GivesTheExactDayAndMonth) {
   EXPECT_TRUE(written.readAll().startsWith("BEGIN:VCALENDAR"));
 }
 
+TEST_F(DailyProgram, WritesTheReport) {
+  const QString file = data.Path() + "/day.pdf";
+  const Answer whole = Call({"--pdf", file, "--at", "2026-11-21 09:00"});
+  EXPECT_EQ(whole.code, 0) << whole.err.constData();
+  EXPECT_EQ(whole.out + whole.err, "");
+  QFile written(file);
+  ASSERT_TRUE(written.open(QIODevice::ReadOnly));
+  const QByteArray pages = written.readAll();
+  EXPECT_TRUE(pages.startsWith("%PDF"));
+  // What cannot be written or is asked for wrongly leaves the good file as it is.
+  EXPECT_EQ(Call({"--pdf", file, "--topics", "NoSuchTopic"}).code, 2);
+  EXPECT_EQ(Call({"--pdf", data.Path() + "/day.pdf/inside.pdf"}).code, 1);
+  EXPECT_EQ(Call({"--topics", "Rashifala"}).code, 2);
+  written.seek(0);
+  EXPECT_EQ(written.readAll(), pages);
+}
+
 TEST_F(DailyProgram, HelpsAndTellsItsVersion) {
   const QByteArray help = Call({"--help"}).out;
   EXPECT_TRUE(help.startsWith("Usage: orvani-daily ")) << help.constData();
