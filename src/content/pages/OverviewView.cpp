@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include "analysis/ExactBeside.h"
 #include "analysis/SelvaniDailyMod.h"
 #include "chart/Kundali.h"
 #include "content/SetFonts.h"
@@ -19,7 +20,7 @@ namespace {
 
 constexpr int HeadHeight = 28;   // pixels of every card's head line
 constexpr int NarrowPage = 620;  // pixels of width, below which the facts take the small size
-constexpr int BirthChartPage = 6, TransitChartPage = 8, PanchangPageNumber = 13;
+constexpr int BirthChartPage = 6, TransitChartPage = 8, PanchangPageNumber = 13, ExactDayPageNumber = 36;
 
 QFrame *Card(QWidget *parent) {
   auto *card = new QFrame(parent);
@@ -76,10 +77,10 @@ OverviewView::OverviewView(QWidget *parent) : PageView(parent) {
                                               {"lblYogaHead", "lblYogaVal", "value"},
                                               {"lblKaranHead", "lblKaranVal", "value"}}),
                    1);
-  facts->addWidget(FactsCard(Label("lblOthFactors", "head"), {{"lblSunRiseHead", "lblSunriseVal", "value"},
-                                                              {"lblSunSetHead", "lblSunsetVal", "value"},
-                                                              {"lblRahuKaalHead", "lblRahuKaalVal", "bad"},
-                                                              {"lblYamGhantaHead", "lblYamghantaVal", "bad"},
+  facts->addWidget(FactsCard(Label("lblOthFactors", "head"), {{"lblSunRiseHead", "lblSunriseVal", "value", true},
+                                                              {"lblSunSetHead", "lblSunsetVal", "value", true},
+                                                              {"lblRahuKaalHead", "lblRahuKaalVal", "bad", true},
+                                                              {"lblYamGhantaHead", "lblYamghantaVal", "bad", true},
                                                               {"lblCurDashaHead", "lblCurDashaVal", "value"}}),
                    1);
   columns->addLayout(facts, 26);
@@ -92,6 +93,19 @@ QLabel *OverviewView::Label(const char *name, const char *role) {
   label->setTextInteractionFlags(Qt::TextSelectableByMouse);
   labels.insert(QLatin1String(name), label);
   return label;
+}
+
+QPushButton *OverviewView::ExactLink(const char *value) {
+  auto *link = new QPushButton(this);
+  link->setObjectName(QStringLiteral("exact_") + QLatin1String(value));
+  link->setProperty("role", "link");
+  link->setStyleSheet(QStringLiteral("padding: 0; min-height: 0;"));
+  link->setCursor(Qt::PointingHandCursor);
+  link->setToolTip(tr("The time by the sky itself. Opens the exact day."));
+  link->hide();
+  connect(link, &QPushButton::clicked, this, [this] { emit GoToPage(ExactDayPageNumber); });
+  exactLinks.insert(QLatin1String(value), link);
+  return link;
 }
 
 QWidget *OverviewView::FactsCard(QWidget *head, const QList<RowNames> &rows) {
@@ -113,7 +127,13 @@ QWidget *OverviewView::FactsCard(QWidget *head, const QList<RowNames> &rows) {
     grid->addWidget(Label(row.head, "caption"), line, 0);
     QLabel *value = Label(row.value, row.role);
     value->setWordWrap(true);
-    grid->addWidget(value, line, 1);
+    auto *cell = new QVBoxLayout;
+    cell->setSpacing(0);
+    cell->addStretch();
+    cell->addWidget(value);
+    if (row.hasExactTwin) cell->addWidget(ExactLink(row.value), 0, Qt::AlignLeft | Qt::AlignAbsolute);
+    cell->addStretch();
+    grid->addLayout(cell, line, 1);
     grid->setRowStretch(line++, 1);
   }
   grid->setColumnStretch(1, 1);
@@ -128,6 +148,16 @@ void OverviewView::Fill(SelvaniDailyMod &session) {
     if (QLabel *label = labels.value(element)) label->setText(caption);
   }
   lblTodPanchang->setText(page.lblTodPanchang);
+  const ExactBesidePage exact = ExactBeside(session.TodayChart());
+  const auto beside = [this](const char *value, const QString &text) {
+    QPushButton *link = exactLinks.value(QLatin1String(value));
+    link->setText(text.isEmpty() ? QString() : tr("exact %1").arg(text));
+    link->setVisible(!text.isEmpty());
+  };
+  beside("lblSunriseVal", exact.sunrise);
+  beside("lblSunsetVal", exact.sunset);
+  beside("lblRahuKaalVal", exact.rahuKaal);
+  beside("lblYamghantaVal", exact.yamaghanta);
   const clsPlanets &birth = session.BirthChart();
   chartInfo->setText(QStringLiteral("%1 %2").arg(birth.AyanamshName(), clsPlanets::DecToDeg(birth.PlanetLongi(13)).section(':', 0, 1)));
   moment = session.TodayChart().clsPerson().GetBirthDate();
@@ -158,6 +188,7 @@ void OverviewView::ApplyFonts(const SetFonts &fonts) {
   momentInfo->setText(moment.toString(narrowShown ? QStringLiteral("d MMM, H:mm") : QStringLiteral("d MMM yyyy, H:mm")));
   columns->setStretch(0, narrowShown ? 23 : 27);
   columns->setStretch(1, narrowShown ? 30 : 26);
+  for (QPushButton *link : exactLinks) fonts.SetSmallFont(*link);
   for (QLabel *info : {chartInfo, momentInfo}) fonts.SetSmallFont(*info);
   fonts.SetKundaliFont(*kunBirth);
   fonts.SetKundaliFont(*kunTransit);

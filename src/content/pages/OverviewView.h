@@ -30,9 +30,12 @@ class OverviewView : public PageView {
  private:
   struct RowNames {
     const char *head, *value, *role;
+    bool hasExactTwin = false;
   };
 
   QLabel *Label(const char *name, const char *role);
+  // A link to the exact day in a row that has an exact twin; empty and hidden where the two agree.
+  QPushButton *ExactLink(const char *value);
   QWidget *FactsCard(QWidget *head, const QList<RowNames> &rows);
 
   bool IsNarrow() const;
@@ -43,6 +46,7 @@ class OverviewView : public PageView {
   QHBoxLayout *columns;
   QList<QGridLayout *> factGrids;
   QHash<QString, QLabel *> labels;
+  QHash<QString, QPushButton *> exactLinks;  // by the value that they stand beside
   QPushButton *lblTodPanchang;
   QLabel *chartInfo, *momentInfo;
   Kundali *kunBirth, *kunTransit;
