@@ -47,12 +47,21 @@ configure() {
   cmake --preset release "${definitions[@]}" >"$build_dir.log" 2>&1 || { cat "$build_dir.log" >&2; exit 1; }
 }
 
-# Builds the named targets; silent when there is nothing to do.
+# Builds the named targets; says so only when it takes longer than a look.
 build() {
-  local log
+  local log ninja_pid teller_pid
   log=$(mktemp)
-  if ninja -C "$build_dir" -n "$@" 2>/dev/null | grep -q 'no work to do'; then rm -f "$log"; return 0; fi
-  echo "Building"
-  ninja -C "$build_dir" "$@" >"$log" 2>&1 || { cat "$log" >&2; exit 1; }
+  ninja -C "$build_dir" "$@" >"$log" 2>&1 &
+  ninja_pid=$!
+  { sleep 1; echo "Building"; } &
+  teller_pid=$!
+  local failed=
+  wait "$ninja_pid" || failed=yes
+  kill "$teller_pid" 2>/dev/null || true
+  wait "$teller_pid" 2>/dev/null || true
+  if [ -n "$failed" ]; then
+    cat "$log" >&2
+    exit 1
+  fi
   rm -f "$log"
 }
