@@ -12,6 +12,8 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QShortcut>
@@ -426,6 +428,7 @@ void frmMain::MakeKeys() {
     connect(new QShortcut(sequence, this), &QShortcut::activated, this, action);
   };
   key(QKeySequence::Print, [this] { OpenPrint(); });
+  key(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P), [this] { PrintPage(); });
   key(QKeySequence::Save, [this] { SavePageAsPdf(); });
   key(QKeySequence(Qt::Key_F1), [this] { OpenHelp(); });
   key(QKeySequence(Qt::ALT | Qt::Key_Left), [this] { pages->GoBack(); });
@@ -678,8 +681,12 @@ void frmMain::OpenPersonManager() {
     manager.ChoosePerson(session->BirthChart().clsPerson().Name());
     connect(&manager, &frmManageUsers::CityListWanted, this, &frmMain::OpenOptions);
     connect(&manager, &frmManageUsers::Closed, this, [this](const QString &name) {
-      session->LoadPerson(name);
-      session->BuildAnalysis(session->AnalysisMoment());
+      try {
+        session->LoadPerson(name);
+        session->BuildAnalysis(session->AnalysisMoment());
+      } catch (const Error &error) {
+        Notices::Show({Notice::Kind::Warning, QString(), error.Sentence()});
+      }
       ShowPersonHeader();
       pages->ShowAgain();
     });
@@ -739,9 +746,16 @@ void frmMain::SavePageAsPdf() {
   }
 }
 
+void frmMain::PrintPage() {
+  QPrinter printer(QPrinter::HighResolution);
+  QPrintDialog choice(&printer, this);
+  choice.setWindowTitle(tr("Print this page"));
+  if (choice.exec() == QDialog::Accepted) PageExport::Print(*pages->CurrentWidget(), printer);
+}
+
 void frmMain::OpenDashaTree() {
   frmPratyan tree(this);
-  tree.FindPratyantara(session->BirthChart(), session->TodayChart().clsPerson().GetBirthDate());
+  tree.FindPratyantara(session->BirthChart(), session->AnalysisMoment());
   tree.exec();
 }
 

@@ -63,6 +63,7 @@ class frmMain : public QMainWindow {
   void OpenSettings();
   void OpenPrint();
   void SavePageAsPdf();
+  void PrintPage();
   void OpenDashaTree();
   void OpenHelp();
   void OpenWebsite();
