@@ -49,7 +49,7 @@ class PageViewsTest : public testing::Test {
     Analyse(11, 0);
   }
 
-  void Analyse(int hour, int minute) { session.BuildAnalysis(QDateTime(QDate(2026, 11, 21), QTime(hour, minute), Qt::UTC)); }
+  void Analyse(int hour, int minute) { session.BuildAnalysis(QDateTime(QDate(2016, 11, 21), QTime(hour, minute), Qt::UTC)); }
 
   template <class View>
   View &Show(View &page, int width = 880, int height = 640) {
@@ -243,7 +243,7 @@ TEST(PeriodClockTest, HoldsFromStartUpToEnd) {
                {23.30, 0.50, 23, 30, true}, {23.30, 0.50, 0, 50, false}, {23.30, 24.50, 0, 49, true}, {9.0, 9.0, 9, 0, false}};
   for (const auto &c : cases)
     EXPECT_EQ(PeriodClock::Holds(c.start, c.end, QTime(c.hour, c.minute)), c.holds) << c.start << " " << c.hour << ":" << c.minute;
-  EXPECT_EQ(PeriodClock::Word(QDateTime(QDate::currentDate(), QTime::currentTime(), Qt::UTC)), "now");
+  EXPECT_TRUE(PeriodClock::Word(QDateTime(QDate::currentDate(), QTime::currentTime(), Qt::UTC)).startsWith("now "));
   EXPECT_EQ(PeriodClock::Word(QDateTime(QDate(2020, 3, 1), QTime(9, 5), Qt::UTC)), "at 9:05");
 }
 

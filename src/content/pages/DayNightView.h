@@ -37,7 +37,7 @@ class DayNightView : public PageView {
   QLabel &TimeHead(int half) const { return tables[static_cast<size_t>(half)]->Head(timeCol); }
   void SetNote(const QString &words);
 
-  // row: of the whole day, -1 for none. word: "now", or the moment's time; it stands in the mark column.
+  // row: of the whole day, -1 for none. word: "now 9:05", or the moment's time; it stands in the mark column.
   void MarkRunning(int row, int markColumn, const QString &word);
   // The day and the night as a bar under the two cards; a page that does not call it has none.
   void SetStrip(SpanStrip::Span span, const QString &name);

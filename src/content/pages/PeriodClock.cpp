@@ -35,8 +35,10 @@ bool IsBeforeSunrise(double sunriseClock, const QTime &time) { return MinutesOf(
 QString Word(const QDateTime &moment) {
   // Moments are kept as a plain calendar, so the machine's clock is read as one too.
   const QDateTime clock(QDate::currentDate(), QTime::currentTime(), Qt::UTC);
-  if (std::abs(moment.secsTo(clock)) <= FreshMinutes * 60) return QCoreApplication::translate("PeriodClock", "now");
-  return QCoreApplication::translate("PeriodClock", "at %1").arg(moment.time().toString(QStringLiteral("H:mm")));
+  const bool isNow = std::abs(moment.secsTo(clock)) <= FreshMinutes * 60;
+  // Both words carry the time, so that a page is laid out alike at every hour.
+  const QString word = isNow ? QCoreApplication::translate("PeriodClock", "now %1") : QCoreApplication::translate("PeriodClock", "at %1");
+  return word.arg(moment.time().toString(QStringLiteral("H:mm")));
 }
 
 }  // namespace PeriodClock

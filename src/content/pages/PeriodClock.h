@@ -20,7 +20,7 @@ bool Holds(double startClock, double endClock, const QTime &time);
 // The Vedic day begins at sunrise: before it the periods of the day before still run.
 bool IsBeforeSunrise(double sunriseClock, const QTime &time);
 
-// "now" for a moment of this very time by the machine's clock, otherwise "at 9:05".
+// "now 9:05" for a moment of this very time by the machine's clock, otherwise "at 9:05".
 QString Word(const QDateTime &moment);
 
 }  // namespace PeriodClock
