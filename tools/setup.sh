@@ -9,6 +9,8 @@ run_packages=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libqt6sql6-sqlite l
   fonts-liberation shared-mime-info hicolor-icon-theme)
 # What the tests need beside them.
 test_packages=(libgtest-dev libbenchmark-dev xvfb xauth hunspell hunspell-en-us poppler-utils)
+# What fuzzing needs beside them.
+fuzz_packages=(clang libclang-rt-dev)
 
 # Installs those of the named packages that are missing, as root or with sudo.
 need_packages() {
@@ -64,4 +66,13 @@ build() {
     exit 1
   fi
   rm -f "$log"
+}
+
+# Puts the text from stdin into a file between the marks <!-- NAME --> and <!-- end of NAME -->.
+put_report() {
+  local text
+  text=$(mktemp)
+  cat >"$text"
+  sed -i -e "/<!-- $2 -->/,/<!-- end of $2 -->/{//!d}" -e "/<!-- $2 -->/r $text" "$1"
+  rm -f "$text"
 }
