@@ -171,6 +171,7 @@ DailyOptions DailyOptions::Parse(const QStringList &arguments) {
   option("ics", "Write that month, or the day's, as a calendar file and print nothing.", "FILE");
   option("pdf", "Write the daily report to a PDF and print nothing.", "FILE");
   option("topics", "The topics of the report, parted by commas, as in FrontPage,Rashifala; all when left out.", "KEY,KEY");
+  option("restore", "Put the kept copies of damaged stores back in their place and end; what lay there is moved aside.");
   option("app-dir", "The folder that holds the data folder EPHE.", "DIR");
   option("help", "Show this help and end.");
   option("version", "Show the version and end.");
@@ -194,6 +195,7 @@ DailyOptions DailyOptions::Parse(const QStringList &arguments) {
     return options;
   }
   if (parser.isSet(QStringLiteral("list"))) options.action = Action::ListPersons;
+  if (parser.isSet(QStringLiteral("restore"))) options.action = Action::Restore;
   options.form = ReadForm(parser);
   options.appDir = parser.value(QStringLiteral("app-dir"));
   if (parser.isSet(QStringLiteral("app-dir")) && options.appDir.trimmed().isEmpty())

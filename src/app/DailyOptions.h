@@ -11,7 +11,7 @@
 
 // What one call of orvani-daily asks for.
 struct DailyOptions {
-  enum class Action { ShowDay, ListPersons, Help, Version };
+  enum class Action { ShowDay, ListPersons, Restore, Help, Version };
   enum class Form { Text, Json, Read, Exact };
 
   Action action = Action::ShowDay;

@@ -23,8 +23,10 @@
 #include "platform/AppPaths.h"
 #include "platform/DataFiles.h"
 #include "platform/Errors.h"
+#include "platform/Notices.h"
 #include "platform/Numbers.h"
 #include "platform/Recordset.h"
+#include "platform/StoreKeeper.h"
 #include "platform/UserSettings.h"
 #include "platform/clsIni.h"
 #include "reports/DailyReport.h"
@@ -109,6 +111,19 @@ bool LoadStored(SelvaniDailyMod &session, const QString &name, const clsIni &ini
   }
 }
 
+// A store that cannot be opened names the command that puts its copy back; one that is only doubtful is told and read.
+std::shared_ptr<Database> OpenStored(const QString &path, const DailyOptions &options) {
+  try {
+    return StoreKeeper::OpenForReading(path);
+  } catch (const RestorableError &error) {
+    const QString folder = options.appDir.isEmpty() ? QString() : QStringLiteral(" --app-dir \"%1\"").arg(options.appDir);
+    const StoreError told(QStringLiteral("%1 Do so with: orvani-daily --restore%2").arg(error.Sentence(), folder), error.Reason());
+    if (error.StoreState() == RestorableError::State::Unusable) throw told;
+    Notices::Show({Notice::Kind::Warning, QString(), QStringLiteral("orvani-daily: ") + told.Sentence()});
+    return StoreKeeper::OpenForReading(path, StoreKeeper::Doubt::Accept);
+  }
+}
+
 int ShowDay(const DailyOptions &options, const AppPaths &paths, std::shared_ptr<Database> persons) {
   const clsIni ini(paths);
   FileUserSettings stored;
@@ -119,7 +134,7 @@ int ShowDay(const DailyOptions &options, const AppPaths &paths, std::shared_ptr<
   if (options.upagraha) settings.SetIntValue(SettingKeys::UpagrahaMode, *options.upagraha);
   CheckCustomAyanamsha(settings, stored);
 
-  const auto residences = Database::OpenDatabase(paths.DailyPath(), Database::Mode::ReadOnly);
+  const auto residences = OpenStored(paths.DailyPath(), options);
   const LanguageRow language = ChosenLanguage(paths, ini);
   SelvaniDailyMod session(settings, {OpenWords(paths, language), persons, residences});
   try {
@@ -164,21 +179,43 @@ int ShowDay(const DailyOptions &options, const AppPaths &paths, std::shared_ptr<
   }
 }
 
-// The folder is only read, so data that cannot be copied to the user's own folder do where they are.
-AppPaths Located(const QString &appDir) {
+// Where the folder is only read, data that cannot be copied to the user's own folder do where they are.
+AppPaths Located(const QString &appDir, AppPaths::Access access) {
   try {
-    return AppPaths::Locate(appDir, AppPaths::Access::Read);
+    return AppPaths::Locate(appDir, access);
   } catch (const MissingFileError &error) {
     if (appDir.isEmpty()) throw;
     throw UsageError(error.Sentence());
   }
 }
 
+// Puts the kept copy of each store that needs it in its place. A store without one is told after the others are done.
+int RestoreStores(const AppPaths &paths) {
+  std::optional<StoreError> fault;
+  for (const QString &path : {paths.RecosPath(), paths.DailyPath()}) {
+    const QString shown = QDir::toNativeSeparators(path);
+    try {
+      StoreKeeper::OpenForReading(path);
+      Print(QStringLiteral("%1 is sound and stays as it is.\n").arg(shown));
+    } catch (const RestorableError &) {
+      const QString kept = StoreKeeper::KeptMoment(path).value_or(QDateTime()).toString(StoreKeeper::kMomentFormat);
+      const QString aside = StoreKeeper::RestoreCopy(path);
+      Print(QStringLiteral("%1 is again as it was on %2.\n").arg(shown, kept));
+      if (!aside.isEmpty()) Print(QStringLiteral("What lay there is now %1.\n").arg(QDir::toNativeSeparators(aside)));
+    } catch (const StoreError &error) {
+      fault = error;
+    }
+  }
+  if (fault) throw *fault;
+  return 0;
+}
+
 int ShowOrList(const DailyOptions &options) {
-  const AppPaths paths = Located(options.appDir);
-  DataFiles::CheckFileExists(paths, QStringLiteral("COMMON\\RECOS.Dat"));
+  if (options.action == DailyOptions::Action::Restore) return RestoreStores(Located(options.appDir, AppPaths::Access::Write));
+  const AppPaths paths = Located(options.appDir, AppPaths::Access::Read);
+  DataFiles::CheckPersonStore(paths);
   DataFiles::CheckDataFiles(paths);
-  const auto persons = Database::OpenDatabase(paths.RecosPath(), Database::Mode::ReadOnly);
+  const auto persons = OpenStored(paths.RecosPath(), options);
   return options.action == DailyOptions::Action::ListPersons ? ListPersons(*persons, options.form) : ShowDay(options, paths, persons);
 }
 

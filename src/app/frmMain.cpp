@@ -19,6 +19,7 @@
 #include <QShortcut>
 #include <QStandardPaths>
 #include <array>
+#include <utility>
 
 #include "analysis/NowCardPage.h"
 #include "analysis/PredictionPages.h"
@@ -29,6 +30,7 @@
 #include "app/NavigationColumn.h"
 #include "app/NowCard.h"
 #include "app/SamplePerson.h"
+#include "app/StoreRescue.h"
 #include "app/frmDate.h"
 #include "app/frmStatus.h"
 #include "chart/ImageButton.h"
@@ -190,7 +192,17 @@ frmMain::frmMain(AppPaths applicationPaths, UserSettings &userSettings, MessageB
   MakeKeys();
 }
 
-frmMain::~frmMain() = default;
+// The copies are brought up to what this run has saved.
+frmMain::~frmMain() {
+  if (!session) return;
+  for (const std::shared_ptr<Database> &store : {session->OpenStores().personDb, session->OpenStores().dailyDb}) {
+    try {
+      if (store && store->OpenMode() == Database::Mode::ReadWrite) StoreKeeper::KeepCopy(*store);
+    } catch (const Error &) {
+      // The copy of the start goes on serving, and the next start tells what stands in the way.
+    }
+  }
+}
 
 // --- making ---------------------------------------------------------------------------------------------------------
 
@@ -449,39 +461,18 @@ void frmMain::Load() {
   SelectLanguage();
   SelectLastPerson();
   session->BuildAnalysis(clock());
+  StoresChanged();
   ShowPersonHeader();
   ChangeMouseIcons();
   PlaceContent();
   pages->ShowPage(OverviewPageNumber);
 }
 
-// A store that cannot be opened is told, and its kept copy offered; the program goes on without it.
-std::shared_ptr<Database> frmMain::OpenStore(const QString &path) {
-  try {
-    return StoreKeeper::OpenUserStore(path);
-  } catch (const StoreError &error) {
-    const bool canRestore =
-        StoreKeeper::KeptMoment(path) && (error.Reason() == StoreError::Kind::Damaged || error.Reason() == StoreError::Kind::Missing ||
-                                          error.Reason() == StoreError::Kind::Foreign);
-    if (!canRestore) {
-      Notices::Show({Notice::Kind::Critical, Maker::Title, error.Sentence()});
-      return nullptr;
-    }
-    if (!boxes.Ask(Maker::Title, error.Sentence() + QStringLiteral("\n\n") + tr("Put the kept copy back now?"))) return nullptr;
-  }
-  try {
-    StoreKeeper::RestoreCopy(path);
-    return StoreKeeper::OpenUserStore(path);
-  } catch (const StoreError &error) {
-    Notices::Show({Notice::Kind::Critical, Maker::Title, error.Sentence()});
-    return nullptr;
-  }
-}
-
 void frmMain::OpenDatabases() {
   SelvaniDailyMod::Stores stores;
-  stores.personDb = OpenStore(paths.RecosPath());
-  stores.dailyDb = OpenStore(paths.DailyPath());
+  StoreRescue rescue(boxes);
+  stores.personDb = rescue.Open(paths.RecosPath());
+  stores.dailyDb = rescue.Open(paths.DailyPath());
   try {
     if (stores.personDb) PlacesUpgrade::Apply(*stores.personDb, paths.Ephe(QStringLiteral("COMMON/PLACES.DAT")));
   } catch (const Error &error) {
@@ -520,16 +511,6 @@ void frmMain::LoadLanguages() {
   }
 }
 
-// A configuration file that cannot be read is told, and is as good as an empty one.
-QString frmMain::Kept(const QString &key, const QString &standard) const {
-  try {
-    return ini.GetIniString(key, standard);
-  } catch (const StoreError &error) {
-    Notices::Show({Notice::Kind::Warning, QString(), error.Sentence()});
-    return standard;
-  }
-}
-
 void frmMain::SelectLanguage() {
   if (languages.empty()) {
     // No language is offered: the words' own warning tells why, and the pages stay empty.
@@ -537,7 +518,7 @@ void frmMain::SelectLanguage() {
     return;
   }
   bool isIndex = false;
-  const int index = Kept(QStringLiteral("SelLang"), QStringLiteral("0")).toInt(&isIndex);
+  const int index = ini.GetIniString(QStringLiteral("SelLang"), QStringLiteral("0")).toInt(&isIndex);
   const int chosen = isIndex && index >= 0 && index < cmbLang->count() ? index : 0;
   cmbLang->setCurrentIndex(chosen);
   OnLanguageChosen(chosen);
@@ -570,7 +551,10 @@ void frmMain::OnLanguageChosen(int index) {
 
 void frmMain::SelectLastPerson() {
   try {
-    if (session->LoadLastPerson(Kept(QStringLiteral("LastPerson"), QString()))) {
+    // Once a person is shown, it is that one: the configuration may name the choice of another window by now.
+    const bool isShown = session->HasPerson() && !sampleShown;
+    const QString last = isShown ? session->BirthChart().clsPerson().Name() : ini.GetIniString(QStringLiteral("LastPerson"), QString());
+    if (session->LoadLastPerson(last)) {
       sampleShown = false;
       return;
     }
@@ -699,6 +683,7 @@ void frmMain::OpenPersonManager() {
 void frmMain::OpenOptions() {
   const std::shared_ptr<Database> &persons = session->OpenStores().personDb;
   if (!persons) return;
+  FollowOthers();
   frmEditLongLat options(persons, settings, ini, this);
   connect(&options, &frmEditLongLat::CalculationChanged, this, [this] {
     SelectLastPerson();
@@ -717,6 +702,7 @@ void frmMain::OpenDate() {
 }
 
 void frmMain::OpenSettings() {
+  FollowOthers();
   frmSettings wizard(settings, ini, this);
   wizard.exec();
   SelectLastPerson();
@@ -790,6 +776,36 @@ void frmMain::SavePosition() {
   settings.SetIntValue(SettingKeys::LeftPos, x());
   settings.SetIntValue(SettingKeys::Width, width());
   settings.SetIntValue(SettingKeys::Height, height());
+}
+
+bool frmMain::event(QEvent *event) {
+  if (event->type() == QEvent::WindowActivate) FollowOthers();
+  return QMainWindow::event(event);
+}
+
+// Another window may have changed this person, a place or a setting meanwhile: what is shown follows.
+void frmMain::FollowOthers() {
+  if (!session || !session->HasAnalysis()) return;
+  try {
+    const bool isOfOtherSettings = settings.Refresh();
+    if (!(StoresChanged() || isOfOtherSettings) || sampleShown) return;
+    const QString name = session->BirthChart().clsPerson().Name();
+    if (!session->LoadPerson(name)) {
+      lblHint->setText(tr("%1 is no longer in the list of persons.").arg(name));
+      return;
+    }
+    session->BuildAnalysis(session->AnalysisMoment());
+  } catch (const Error &) {
+    return;  // told at the next step that needs the store; a box here would come again with each return to the window
+  }
+  ShowPersonHeader();
+  pages->ShowAgain();
+}
+
+bool frmMain::StoresChanged() {
+  const auto version = [](const std::shared_ptr<Database> &store) { return store ? store->DataVersion() : 0; };
+  const std::pair now(version(session->OpenStores().personDb), version(session->OpenStores().dailyDb));
+  return std::exchange(seenStores, now) != now;
 }
 
 void frmMain::resizeEvent(QResizeEvent *event) {

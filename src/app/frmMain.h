@@ -71,6 +71,7 @@ class frmMain : public QMainWindow {
 
  protected:
   void closeEvent(QCloseEvent *event) override;
+  bool event(QEvent *event) override;
   void resizeEvent(QResizeEvent *event) override;
   void keyPressEvent(QKeyEvent *event) override;
 
@@ -85,9 +86,7 @@ class frmMain : public QMainWindow {
   void AddLargeChart(int page, int kind);
 
   void OpenDatabases();
-  std::shared_ptr<Database> OpenStore(const QString &path);
   void LoadLanguages();
-  QString Kept(const QString &key, const QString &standard) const;
   void SelectLanguage();
   void OnLanguageChosen(int index);
   void SelectLastPerson();
@@ -98,6 +97,8 @@ class frmMain : public QMainWindow {
   void OnPageShown(int page);
   void PlaceContent();
   void SavePosition();
+  void FollowOthers();
+  bool StoresChanged();
 
   AppPaths paths;
   UserSettings &settings;
@@ -111,6 +112,7 @@ class frmMain : public QMainWindow {
   std::vector<LanguageRow> languages;
   SetFonts fonts;
   bool sampleShown = false;  // no stored person is to be had
+  std::pair<qlonglong, qlonglong> seenStores;
 
   QWidget *header = nullptr;
   HeaderCard *personCard = nullptr, *dateCard = nullptr;

@@ -96,7 +96,7 @@ void frmSplash::Load() {
 }
 
 void frmSplash::DoLoad() {
-  if (CheckFileExists(paths.RecosPath()) == Outcome::Failed || CheckDataFiles() == Outcome::Failed) return;
+  if (CheckPersonStore() == Outcome::Failed || CheckDataFiles() == Outcome::Failed) return;
   // Once more: the wizard may have been open for long, and the main screen lists only what is there now.
   CheckDisplay();
   CheckFonts();
@@ -124,8 +124,8 @@ frmSplash::Outcome frmSplash::CheckLanguages() {
   });
 }
 
-frmSplash::Outcome frmSplash::CheckFileExists(const QString &path) {
-  return Guard([&] { DataFiles::CheckFileExists(paths, path); });
+frmSplash::Outcome frmSplash::CheckPersonStore() {
+  return Guard([this] { DataFiles::CheckPersonStore(paths); });
 }
 
 frmSplash::Outcome frmSplash::CheckDataFiles() {

@@ -40,7 +40,7 @@ class frmSplash : public QWidget {
   void CheckDisplay();
   void CheckFonts();
   Outcome CheckLanguages();
-  Outcome CheckFileExists(const QString &path);
+  Outcome CheckPersonStore();
   Outcome CheckDataFiles();
   void RunSetup();
   // Runs a check that tells of its failure by an exception; shows its sentence and ends the program then.

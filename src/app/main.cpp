@@ -11,6 +11,7 @@
 #include "app/Maker.h"
 #include "app/MessageBoxes.h"
 #include "app/Screens.h"
+#include "app/StoreRescue.h"
 #include "app/frmMain.h"
 #include "app/frmSplash.h"
 #include "content/Skin.h"
@@ -65,7 +66,9 @@ int main(int argc, char **argv) {
     MessageBoxes boxes;
     if (parser.isSet(screens)) return WriteScreens(parser.value(screens), paths, boxes);
 
-    FileUserSettings settings;
+    const std::unique_ptr<FileUserSettings> settingsFile = StoreRescue(boxes).OpenSettings();
+    if (!settingsFile) return 1;
+    FileUserSettings &settings = *settingsFile;
     std::unique_ptr<frmMain> mainScreen;
     bool ended = false;
     frmSplash splash(paths, settings, ORVANI_VERSION_MAJOR, ORVANI_VERSION_MINOR,

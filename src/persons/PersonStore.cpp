@@ -4,6 +4,7 @@
 
 #include <QHash>
 #include <QSqlQuery>
+#include <algorithm>
 
 #include "platform/Errors.h"
 
@@ -169,6 +170,28 @@ PersonStore::Outcome PersonStore::Save(const PersonRecord &record) {
   return outcome;
 }
 
+// Each with the first residence, as At gives them.
+std::vector<PersonRecord> PersonStore::AllOf(const QString &name) const {
+  std::vector<PersonRecord> all;
+  const Recordset place = db->OpenRecordset(QStringLiteral("SELECT * FROM ") + Residences() + QStringLiteral(" WHERE Name = ?"), {name});
+  Recordset person = db->OpenRecordset(QStringLiteral("SELECT * FROM main.Person WHERE Name = ?"), {name});
+  for (; !person.AtEnd(); person.MoveNext()) {
+    all.push_back(Read(person));
+    if (!place.IsEmpty()) all.back().residence = ReadPlace(place);
+  }
+  return all;
+}
+
+std::optional<PersonStore::Outcome> PersonStore::SaveOver(const PersonRecord &record, const std::optional<PersonRecord> &seen) {
+  Transaction transaction(*db);
+  const std::vector<PersonRecord> stored = AllOf(record.Name.trimmed());
+  const bool isAsSeen = seen ? std::find(stored.begin(), stored.end(), *seen) != stored.end() : stored.empty();
+  if (!isAsSeen) return std::nullopt;
+  const Outcome outcome = Write(record, Extent::Screen, 0);
+  transaction.Commit();
+  return outcome;
+}
+
 PersonStore::Tally PersonStore::SaveAll(const std::vector<PersonRecord> &records) {
   Tally tally;
   QHash<QString, int> seen;
@@ -203,11 +226,14 @@ PersonStore::Removed PersonStore::Snapshot() const {
           RowsKept::Copy(*db, Residences(), QStringLiteral("1"), {})};
 }
 
-void PersonStore::GoBackTo(const Removed &snapshot) {
+void PersonStore::GoBackTo(const Removed &snapshot, const QStringList &names) {
+  const QString name = QStringLiteral("Name");
   Transaction transaction(*db);
-  db->Execute(QStringLiteral("DELETE FROM main.Person"));
-  db->Execute(QStringLiteral("DELETE FROM ") + Residences());
-  snapshot.persons.PutBack(*db);
-  snapshot.residences.PutBack(*db);
+  for (const QString &one : names) {
+    db->Execute(QStringLiteral("DELETE FROM main.Person WHERE Name = ?"), {one});
+    db->Execute(QStringLiteral("DELETE FROM %1 WHERE Name = ?").arg(Residences()), {one});
+  }
+  snapshot.persons.Of(name, names).PutBack(*db);
+  snapshot.residences.Of(name, names).PutBack(*db);
   transaction.Commit();
 }

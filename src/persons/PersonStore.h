@@ -4,6 +4,7 @@
 
 #include <QStringList>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "persons/PersonRecord.h"
@@ -34,6 +35,9 @@ class PersonStore {
   // Writes the first person of the name, or a new one, with the residence. The name is kept without blanks around it.
   // Throws StoreError; nothing is changed then. Throws UsageError for a name that is empty or blank.
   Outcome Save(const PersonRecord &record);
+  // The same where nobody has changed the person since `seen` was read, which is nothing for a new name; nothing otherwise, and the store
+  // is as it was.
+  std::optional<Outcome> SaveOver(const PersonRecord &record, const std::optional<PersonRecord> &seen);
 
   struct Tally {
     int added = 0, changed = 0;
@@ -54,11 +58,16 @@ class PersonStore {
 
   // Everything as it lies now, to go back to after a list of persons came in.
   Removed Snapshot() const;
-  void GoBackTo(const Removed &snapshot);
+  // Only these names go back: what another program has saved of others since stays.
+  void GoBackTo(const Removed &snapshot, const QStringList &names);
+
+  // Differs from an earlier answer when another program has changed one of the files since.
+  std::pair<qlonglong, qlonglong> DataVersion() const { return {db->DataVersion(), db->DataVersion(schema)}; }
 
  private:
   QString Residences() const { return schema + QStringLiteral(".PERSON"); }
   PersonRecord Read(const Recordset &row) const;
+  std::vector<PersonRecord> AllOf(const QString &name) const;
   static PersonPlace ReadPlace(const Recordset &row);
   static void WritePlace(Recordset &row, const PersonPlace &place);
   enum class Extent { Screen, Whole };

@@ -15,4 +15,6 @@ struct Place {
   QString Zone;              // IANA time zone, "Asia/Kolkata"; empty for a place that the user added
   QString Known;             // other names, separated by ";"
   qlonglong Population = 0;  // 0 where it is not known
+
+  bool operator==(const Place &) const = default;
 };

@@ -169,8 +169,8 @@ std::vector<PlaceSearch::Hit> PlaceSearch::Hits(const QString &folded, int count
   return best;
 }
 
-std::optional<Place> PlaceSearch::Load(qlonglong row) const {
-  const Recordset found = db->OpenRecordset(QStringLiteral("SELECT rowid AS PlaceRow, * FROM City WHERE rowid = ?"), {row});
+std::optional<Place> PlaceSearch::Load(Database &personDb, qlonglong row) {
+  const Recordset found = personDb.OpenRecordset(QStringLiteral("SELECT rowid AS PlaceRow, * FROM City WHERE rowid = ?"), {row});
   if (found.IsEmpty()) return std::nullopt;
   return ReadPlace(found);
 }

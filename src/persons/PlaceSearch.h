@@ -47,7 +47,8 @@ class PlaceSearch {
   // A country's places by name, for its list; those of the whole world for an empty text.
   std::vector<Listed> CitiesOf(const QString &country) const;
   // The whole row of a listed place; nothing where it was deleted meanwhile.
-  std::optional<Place> Load(qlonglong row) const;
+  std::optional<Place> Load(qlonglong row) const { return Load(*db, row); }
+  static std::optional<Place> Load(Database &personDb, qlonglong row);
   const std::vector<Country> &Countries() const { return countries; }
   const Country *FindCountry(const QString &typed) const;  // the first by name that begins so; null for none and for a text with "["
   int Count() const { return static_cast<int>(entries.size()); }

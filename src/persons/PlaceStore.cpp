@@ -5,6 +5,7 @@
 #include <QSqlQuery>
 
 #include "persons/PersonFields.h"
+#include "persons/PlaceSearch.h"
 #include "platform/Errors.h"
 
 namespace {
@@ -39,6 +40,20 @@ QString PlaceStore::CountryDifference(const QString &name) const {
 
 qlonglong PlaceStore::SaveCity(const Place &place) {
   Transaction transaction(*db);
+  const qlonglong number = WriteCity(place);
+  transaction.Commit();
+  return number;
+}
+
+std::optional<qlonglong> PlaceStore::SaveCityOver(const Place &place, const std::optional<Place> &seen) {
+  Transaction transaction(*db);
+  if (place.row != 0 && PlaceSearch::Load(*db, place.row) != seen) return std::nullopt;
+  const qlonglong number = WriteCity(place);
+  transaction.Commit();
+  return number;
+}
+
+qlonglong PlaceStore::WriteCity(const Place &place) {
   Recordset row = db->OpenRecordset(QStringLiteral("SELECT * FROM City WHERE rowid = ?"), {place.row});
   const bool isNew = row.IsEmpty();
   if (isNew) {
@@ -67,7 +82,6 @@ qlonglong PlaceStore::SaveCity(const Place &place) {
     if (!last.exec(QStringLiteral("SELECT last_insert_rowid()")) || !last.next()) throw db->Failure(last);
     number = last.value(0).toLongLong();
   }
-  transaction.Commit();
   return number;
 }
 

@@ -4,6 +4,7 @@
 
 #include <QStringList>
 #include <memory>
+#include <optional>
 
 #include "persons/Place.h"
 #include "persons/RowsKept.h"
@@ -21,6 +22,9 @@ class PlaceStore {
   // place.row 0 adds a row, another number changes that row; the row number of the result. Region and zone of a changed row stay as
   // long as it is about the same point of the same country. Throws StoreError.
   qlonglong SaveCity(const Place &place);
+  // The same where the row is still as it was when `seen` was read; nothing otherwise, and the store is as it was. A new place has nothing
+  // to be seen. Row numbers of deleted places come to be used again, so that a row may be another place by now.
+  std::optional<qlonglong> SaveCityOver(const Place &place, const std::optional<Place> &seen);
   // former: the name of the row to change; empty to add one.
   void SaveCountry(const QString &name, const QString &gmtDifference, const QString &former);
 
@@ -30,5 +34,7 @@ class PlaceStore {
   void Restore(const RowsKept &kept);
 
  private:
+  qlonglong WriteCity(const Place &place);
+
   std::shared_ptr<Database> db;
 };

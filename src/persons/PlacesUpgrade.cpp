@@ -69,11 +69,13 @@ void Run(QSqlQuery &query, const Database &db) {
 
 PlacesUpgrade::Outcome PlacesUpgrade::Apply(Database &personDb, const QString &placesPath) {
   if (personDb.OpenMode() == Database::Mode::ReadOnly || !QFileInfo::exists(placesPath)) return {};
-  const auto shipped = Database::OpenDatabase(placesPath, Database::Mode::ReadOnly);
+  // Every start asks for the version, and only an upgrade reads the rest.
+  const auto shipped = Database::OpenDatabase(placesPath, Database::Mode::ReadOnly, Database::Check::HeadOnly);
   const int version = Number(*shipped, QStringLiteral("SELECT MAX(Version) AS Answer FROM PlacesVersion"), FirstList);
   const int seen = SeenVersion(personDb);
   if (seen >= version && HasTable(personDb, "PlacesApplied")) return {};
 
+  shipped->CheckEveryPage();
   Transaction transaction(personDb);
   AddColumns(personDb);
   Outcome outcome;

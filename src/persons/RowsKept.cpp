@@ -4,6 +4,8 @@
 
 #include <QSqlQuery>
 #include <QSqlRecord>
+#include <algorithm>
+#include <iterator>
 
 #include "platform/Store.h"
 
@@ -28,6 +30,16 @@ RowsKept RowsKept::Take(Database &db, const QString &table, const QString &condi
   RowsKept kept = Copy(db, table, condition, bound);
   db.Execute(QStringLiteral("DELETE FROM %1 WHERE %2").arg(table, condition), bound);
   return kept;
+}
+
+RowsKept RowsKept::Of(const QString &column, const QStringList &values) const {
+  RowsKept some;
+  some.table = table;
+  some.columns = columns;
+  const qsizetype at = columns.indexOf(column);
+  std::copy_if(rows.begin(), rows.end(), std::back_inserter(some.rows),
+               [&](const QVariantList &row) { return values.contains(row.value(at).toString(), Qt::CaseInsensitive); });
+  return some;
 }
 
 void RowsKept::PutBack(Database &db) const {

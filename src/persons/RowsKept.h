@@ -20,6 +20,9 @@ class RowsKept {
   // In their old places where those are still free, and behind the others where they are not. Throws StoreError.
   void PutBack(Database &db) const;
 
+  // Those whose text in the column is one of `values`, whatever the case of its letters.
+  RowsKept Of(const QString &column, const QStringList &values) const;
+
   bool IsEmpty() const { return rows.empty(); }
 
  private:

@@ -398,6 +398,7 @@ void frmEditLongLat::PlacesAreChanged() {
 
 void frmEditLongLat::ShowCity(const Place &place) {
   cityRow = place.row;
+  seenCity = place;
   if (cmbCityList->currentText() != place.City && !cmbCityList->lineEdit()->hasFocus()) cmbCityList->ShowCity(place.City);
   txtLat->setText(PersonFields::ShownDegrees(place.Lat));
   txtLong->setText(PersonFields::ShownDegrees(place.Longy));
@@ -465,11 +466,17 @@ void frmEditLongLat::SaveCity() {
   place.NOSO = optNorth->isChecked() ? QStringLiteral("N") : QStringLiteral("S");
   place.EaWe = optEast->isChecked() ? QStringLiteral("E") : QStringLiteral("W");
   place.GMTDIFF = PersonFields::DifferenceText(*difference);
-  const qlonglong row = store.SaveCity(place);
+  const std::optional<qlonglong> row = store.SaveCityOver(place, seenCity);
+  if (!row) {
+    seenCity = places->Load(cityRow);  // saving again is the user's word
+    if (!seenCity) cityRow = 0;
+    bar->Tell(tr("Not saved: %1 was changed or deleted in another window meanwhile. Save again to keep what stands here.").arg(place.City));
+    return;
+  }
   cmdSave->setEnabled(false);
   bar->Clear();
   PlacesAreChanged();
-  if (const auto now = places->Load(row)) ShowCity(*now);
+  if (const auto now = places->Load(*row)) ShowCity(*now);
 }
 
 void frmEditLongLat::DeleteCity() {

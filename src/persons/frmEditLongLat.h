@@ -81,7 +81,8 @@ class frmEditLongLat : public QDialog {
   QRadioButton *optNorth, *optSouth, *optEast, *optWest;
   QLabel *lblCityNote;
   QPushButton *cmdSave;
-  qlonglong cityRow = 0;  // the row on the screen; 0 for a new place
+  qlonglong cityRow = 0;          // the row on the screen; 0 for a new place
+  std::optional<Place> seenCity;  // that row as the store held it when it came on the screen
 
   QComboBox *cboCNTRY;
   QLineEdit *txtGMTDiff;

@@ -112,6 +112,7 @@ frmManageUsers::frmManageUsers(std::shared_ptr<Database> personDb, const QString
     ChooseRow(0);
   else
     AddUser();
+  seenVersion = store.DataVersion();
 }
 
 frmManageUsers::~frmManageUsers() = default;
@@ -389,6 +390,7 @@ void frmManageUsers::ChooseRow(int row) {
 
 void frmManageUsers::ShowPerson(const PersonRecord &record) {
   chosen = record.Name;
+  seen = record;
   cmbPerson->setEditText(record.Name);
   cmbPerson->lineEdit()->setCursorPosition(0);
   cmbBirthDay->setCurrentIndex(record.Day - 1);
@@ -427,6 +429,7 @@ void frmManageUsers::EmptyEverything() {
 void frmManageUsers::AddUser() {
   KeepUnsaved();
   chosen.clear();
+  seen.reset();
   EmptyEverything();
   ShowMoment();
   ShowName();
@@ -485,14 +488,18 @@ void frmManageUsers::Save() {
     bar->Tell(tr("Not saved yet: please mend the marked fields."));
     return;
   }
-  const bool isOther = chosen.compare(record->Name, Qt::CaseInsensitive) != 0 && store.Has(record->Name);
+  const bool isChosen = seen && chosen.trimmed().compare(record->Name, Qt::CaseInsensitive) == 0;
+  const bool isOther = !isChosen && store.Has(record->Name);
   const auto before = isOther ? store.Snapshot() : PersonStore::Removed();
-  store.Save(*record);
+  if (!store.SaveOver(*record, isOther ? store.Find(record->Name) : isChosen ? seen : std::nullopt)) {
+    TellOfOtherSave(record->Name);
+    return;
+  }
   bar->Clear();
   FillPersons();
   if (isOther) {
     bar->Offer(tr("%1 was in the list already and is changed.").arg(Short(record->Name)), tr("Undo"), [this, before, name = record->Name] {
-      store.GoBackTo(before);
+      store.GoBackTo(before, {name});
       FillPersons();
       saved = Form();
       ChoosePerson(name);
@@ -500,6 +507,36 @@ void frmManageUsers::Save() {
   }
   if (const auto stored = store.Find(record->Name)) ShowPerson(*stored);
   warnedOfLoss = false;
+}
+
+// Somebody saved or deleted this person in another window after it came on the screen here: the user says whose word holds.
+void frmManageUsers::TellOfOtherSave(const QString &name) {
+  const std::optional<PersonRecord> theirs = store.Find(name);
+  FillPersons();
+  seen = theirs;  // saving again is the user's word
+  if (!theirs) {
+    bar->Tell(tr("Not saved: %1 was deleted in another window meanwhile. Save again to add this person anew.").arg(Short(name)));
+    return;
+  }
+  bar->Offer(tr("Not saved: %1 was changed in another window meanwhile. Save again to keep what stands here.").arg(Short(name)),
+             tr("Show that change"), [this, theirs] {
+               KeepUnsaved();
+               ShowPerson(*theirs);
+             });
+}
+
+// Back from another window: its changes are shown, unless something is being written here.
+bool frmManageUsers::event(QEvent *event) {
+  if (event->type() == QEvent::WindowActivate) Guard([this] { FollowOthers(); });
+  return QDialog::event(event);
+}
+
+void frmManageUsers::FollowOthers() {
+  const auto now = store.DataVersion();
+  if (std::exchange(seenVersion, now) == now) return;
+  FillPersons();
+  const std::optional<PersonRecord> stored = store.Find(chosen);
+  if (!HasUnsaved() && seen && stored && *stored != *seen) ShowPerson(*stored);
 }
 
 void frmManageUsers::DeleteUser() {
@@ -514,6 +551,7 @@ void frmManageUsers::DeleteUser() {
     ChooseRow(0);
   } else {
     chosen.clear();
+    seen.reset();
     EmptyEverything();
     ShowMoment();
     ShowName();
@@ -535,9 +573,10 @@ void frmManageUsers::KeepUnsaved() {
   if (saved.isEmpty() || !HasUnsaved()) return;
   const QStringList form = Form();
   bar->Offer(tr("The changes to %1 are not saved.").arg(form.first().trimmed().isEmpty() ? tr("the new person") : Short(form.first())),
-             tr("Take back"), [this, form, before = chosen, kept = saved] {
+             tr("Take back"), [this, form, before = chosen, record = seen, kept = saved] {
                SetForm(form);
                chosen = before;
+               seen = record;
                saved = kept;
                ShowName();
              });
@@ -636,8 +675,10 @@ void frmManageUsers::ImportFrom(const QString &path) {
     }
     QString sentence = tr("New persons: %1. Changed persons: %2.").arg(tally.added).arg(tally.changed);
     if (!contents.faults.isEmpty()) sentence += tr(" Rows left out: %1.").arg(contents.faults.size());
-    bar->Offer(sentence, tr("Undo"), [this, before, form] {
-      store.GoBackTo(before);
+    QStringList imported;
+    for (const PersonRecord &person : contents.persons) imported << person.Name.trimmed();
+    bar->Offer(sentence, tr("Undo"), [this, before, form, imported] {
+      store.GoBackTo(before, imported);
       FillPersons();
       if (const auto back = store.Find(chosen))
         ShowPerson(*back);

@@ -47,6 +47,7 @@ class frmManageUsers : public QDialog {
 
  protected:
   void resizeEvent(QResizeEvent *event) override;
+  bool event(QEvent *event) override;
 
  private:
   QWidget *MakeHead();
@@ -62,6 +63,8 @@ class frmManageUsers : public QDialog {
   void EmptyEverything();
   void AddUser();
   void Save();
+  void TellOfOtherSave(const QString &name);
+  void FollowOthers();
   void DeleteUser();
   void TypedTime();
   void ChoseHalf(bool afternoon);
@@ -93,7 +96,9 @@ class frmManageUsers : public QDialog {
   PlaceEditor *birth, *residence;
   QBoxLayout *cards;
   UndoBar *bar;
-  QString chosen;     // the stored name of the person on the screen; empty for a new one
+  QString chosen;                    // the stored name of the person on the screen; empty for a new one
+  std::optional<PersonRecord> seen;  // that person as the store held it then
+  std::pair<qlonglong, qlonglong> seenVersion;
   QStringList saved;  // the form as it was last loaded or saved
   bool warnedOfLoss = false;
 };

@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "platform/DataFiles.h"
 
+#include "platform/FileTools.h"
 #include "platform/Notices.h"
 #include "platform/Store.h"
+#include "platform/StoreKeeper.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -32,6 +34,13 @@ void DataFiles::CheckFileExists(const AppPaths &paths, const QString &path) {
 void DataFiles::CheckDataFiles(const AppPaths &paths) {
   for (const char *file : kCommonFiles) {
     CheckFileExists(paths, QLatin1String(file));
+  }
+}
+
+void DataFiles::CheckPersonStore(const AppPaths &paths) {
+  const QString path = paths.RecosPath();
+  if (!IsTaken(path) && !StoreKeeper::SoundCopyMoment(path)) {
+    CheckFileExists(paths, path);
   }
 }
 

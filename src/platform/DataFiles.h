@@ -19,6 +19,9 @@ class DataFiles {
   /// CheckFileExists for each common data file, in a fixed order. RECOS.Dat is not among them: it is checked first, by itself.
   static void CheckDataFiles(const AppPaths &paths);
 
+  /// CheckFileExists for RECOS.Dat, unless its kept copy can be put back or something else lies in its place: opening it tells more then.
+  static void CheckPersonStore(const AppPaths &paths);
+
   static bool LanguageFileExists(const AppPaths &paths, const QString &directory);
 
   /// Brings the column `Include` of the language list in line with the text files that exist. A list that cannot be written is left

@@ -9,8 +9,11 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QFileInfo>
+#include <QLockFile>
 
 namespace {
+
+constexpr int kLongestWaitMs = 10000;
 
 // What the user's work goes into, relative to EPHE.
 bool IsUsersOwn(const QString &relative) {
@@ -22,7 +25,7 @@ bool IsUsersOwn(const QString &relative) {
 // What a run has put beside the stores of a folder that now serves as a source: another user's, and no data of the program.
 bool IsLeftByARun(const QString &relative) {
   return relative.endsWith(QLatin1String(".kept"), Qt::CaseInsensitive) ||
-         relative.endsWith(QLatin1String(".damaged"), Qt::CaseInsensitive);
+         relative.contains(QLatin1String(".damaged"), Qt::CaseInsensitive) || relative.endsWith(QLatin1String(".lock"));
 }
 
 QByteArray Version(const QString &path) { return QFileInfo::exists(path) ? ReadWholeFile(path).trimmed() : QByteArray(); }
@@ -30,6 +33,12 @@ QByteArray Version(const QString &path) { return QFileInfo::exists(path) ? ReadW
 }  // namespace
 
 void DataSeed::BringUpToDate(const QString &installedEphe, const AppPaths &user) {
+  // Of two programs that start for the first time, the second must not lay a fresh store over one that the first has begun to fill.
+  const QString epheFolder = user.Ephe(QString());
+  QDir().mkpath(epheFolder);
+  QLockFile oneAtATime(epheFolder + QStringLiteral("/SEED.lock"));
+  oneAtATime.tryLock(kLongestWaitMs);  // a folder that cannot be written is told by the first copy into it
+
   const QByteArray installedVersion = Version(installedEphe + u'/' + kVersionFile);
   const bool renew = !installedVersion.isEmpty() && installedVersion != Version(user.Ephe(kVersionFile));
 
@@ -42,10 +51,11 @@ void DataSeed::BringUpToDate(const QString &installedEphe, const AppPaths &user)
     }
     const QString target = user.Ephe(relative);
     const bool usersOwn = IsUsersOwn(relative);
-    if (QFileInfo::exists(target) && (usersOwn || !renew)) {
+    // A link into nothing is the user's too: the drive that holds the file may only be away.
+    if (usersOwn ? IsTaken(target) : QFileInfo::exists(target) && !renew) {
       continue;
     }
-    if (const std::optional<QDateTime> kept = StoreKeeper::KeptMoment(target); usersOwn && kept) {
+    if (const std::optional<QDateTime> kept = StoreKeeper::SoundCopyMoment(target); usersOwn && kept) {
       WriteWholeFile(target, ReadWholeFile(StoreKeeper::KeptPath(target)));
       Notices::Show({Notice::Kind::Warning, QString(),
                      tr("The data file \"%1\" was missing. The copy kept on %2 was put in its place.")

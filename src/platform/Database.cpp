@@ -10,6 +10,7 @@
 #include <QRegularExpression>
 #include <QSqlError>
 #include <QSqlQuery>
+#include <QtEndian>
 
 #include <algorithm>
 #include <array>
@@ -19,9 +20,11 @@
 namespace {
 
 constexpr QByteArrayView kMagic("SQLite format 3\0", 16);
+constexpr qint64 kHeadSize = 100;
 
 // The store engine's result codes that the user can do something about.
 enum Result { kBusy = 5, kLocked = 6, kReadOnly = 8, kInputOutput = 10, kCorrupt = 11, kFull = 13, kCannotOpen = 14, kNotADatabase = 26 };
+constexpr int kReplaced = 1032;  // of the extended codes: another file bears the name now
 
 std::atomic<int> busyTimeoutMs{2000};
 
@@ -55,7 +58,8 @@ constexpr std::array kWordings{
                               "and put the right file there.")},
     Wording{Kind::Damaged,
             QT_TRANSLATE_NOOP("Database",
-                              "The data file \"%1\" is damaged, and it was left as it is. Please put a sound copy of it in its place.")},
+                              "The data file \"%1\" is damaged, and it was left as it is. Please put a sound copy of it in its place, or "
+                              "move it away and install the program again.")},
     Wording{Kind::NewerVersion, QT_TRANSLATE_NOOP("Database",
                                                   "The data file \"%1\" was made by a newer version of this program. Please install that "
                                                   "version, or put back a copy from before.")},
@@ -71,10 +75,45 @@ StoreError Worded(Kind kind, const QString &path) {
   return StoreError(QCoreApplication::translate("Database", wording->sentence).arg(QDir::toNativeSeparators(path)), kind);
 }
 
+// Cases of a kind that are told in words of their own.
+StoreError Told(Kind kind, const char *sentence, const QStringList &values) {
+  QString text = QCoreApplication::translate("Database", sentence);
+  for (const QString &value : values) {
+    text = text.arg(QDir::toNativeSeparators(value));
+  }
+  return StoreError(text, kind);
+}
+
+// A file that has lost its end is told as such: a copy that was cut off is often still lying elsewhere whole.
+StoreError Damage(const QString &path) {
+  QFile file(path);
+  const QByteArray head = file.open(QIODevice::ReadOnly) ? file.read(kHeadSize) : QByteArray();
+  if (head.size() == kHeadSize) {
+    const auto number = qFromBigEndian<quint16>(head.constData() + 16);
+    const qint64 pageSize = number == 1 ? 65536 : number;
+    const qint64 size = pageSize * qFromBigEndian<quint32>(head.constData() + 28);
+    if (size > file.size() && pageSize >= 512) {
+      return Told(Kind::Damaged,
+                  QT_TRANSLATE_NOOP("Database",
+                                    "The data file \"%1\" is cut short: %2 of its %3 bytes are there. It was left as it is; please put a "
+                                    "sound copy of it in its place, or move it away and install the program again."),
+                  {path, QString::number(file.size()), QString::number(size)});
+    }
+  }
+  return Worded(Kind::Damaged, path);
+}
+
 // Everything that can be told before the store engine sees the file. It would make a missing file anew, wait on a pipe,
 // and take an empty file for an empty store.
 void CheckFile(const QString &path, Database::Mode mode) {
   const QFileInfo info(path);
+  if (!info.exists() && info.isSymbolicLink()) {
+    throw Told(Kind::Missing,
+               QT_TRANSLATE_NOOP("Database",
+                                 "The data file \"%1\" is a link to \"%2\", and nothing is there. Please connect the drive that holds the "
+                                 "file, or put the file back."),
+               {path, info.symLinkTarget()});
+  }
   if (!info.exists()) {
     throw Worded(Kind::Missing, path);
   }
@@ -86,6 +125,13 @@ void CheckFile(const QString &path, Database::Mode mode) {
     throw Worded(Kind::Unreadable, path);
   }
   const QByteArray start = file.read(kMagic.size());
+  if (start.isEmpty()) {
+    throw Told(Kind::Damaged,
+               QT_TRANSLATE_NOOP("Database",
+                                 "The data file \"%1\" is empty, and it was left as it is. Please put a sound copy of it in its place, or "
+                                 "move it away and install the program again."),
+               {path});
+  }
   if (!kMagic.startsWith(start)) {
     throw Worded(Kind::Foreign, path);
   }
@@ -94,6 +140,15 @@ void CheckFile(const QString &path, Database::Mode mode) {
   }
   if (mode == Database::Mode::ReadWrite && !info.isWritable()) {
     throw Worded(Kind::ReadOnly, path);
+  }
+  // Beside the file itself a change needs its journal.
+  if (mode == Database::Mode::ReadWrite && !QFileInfo(QFileInfo(info.canonicalFilePath()).path()).isWritable()) {
+    throw Told(
+        Kind::ReadOnly,
+        QT_TRANSLATE_NOOP("Database",
+                          "The folder of the data file \"%1\" is read-only, so nothing can be saved in the file. Please allow writing "
+                          "to the folder."),
+        {path});
   }
 }
 
@@ -112,21 +167,54 @@ QString CheckedSchema(const QString &schema) {
 
 }  // namespace
 
-std::shared_ptr<Database> Database::OpenDatabase(const QString &path, Mode mode) {
+std::shared_ptr<Database> Database::OpenDatabase(const QString &path, Mode mode, Check check) {
   CheckFile(path, mode);
   const std::shared_ptr<Database> database(new Database(path, mode));
   if (!database->handle_.open()) {
     throw Worded(Kind::Unreadable, path);
   }
-  database->Verify(QStringLiteral("main"), path);
+  const QString main = QStringLiteral("main");
+  try {
+    database->CheckHead(main, path);
+  } catch (const StoreError &error) {
+    if (mode != Mode::ReadOnly || error.Reason() != Kind::ReadOnly) {
+      throw;
+    }
+    UndoCutOffSave(path);
+    database->CheckHead(main, path);
+  }
   database->Execute(QStringLiteral("PRAGMA foreign_keys = ON"));
   database->Execute(QStringLiteral("PRAGMA synchronous = FULL"));
-  if (mode == Mode::ReadWrite) {
-    // Only with a rollback journal is a change over two files one change. Some tools leave a file in another journal mode.
-    QSqlQuery query(database->handle_);
-    query.exec(QStringLiteral("PRAGMA journal_mode = DELETE"));
+  if (check == Check::EveryPage) {
+    database->CheckEveryPage(main, path);
+    database->UseRollbackJournal();
   }
   return database;
+}
+
+// Only with a rollback journal is a change over two files one change. Some tools leave a file in another journal mode.
+void Database::UseRollbackJournal() {
+  if (mode_ == Mode::ReadWrite) {
+    QSqlQuery query(handle_);
+    query.exec(QStringLiteral("PRAGMA journal_mode = DELETE"));
+  }
+}
+
+// A reader is refused when a journal waits to be played back: that takes a writer.
+void Database::UndoCutOffSave(const QString &path) {
+  try {
+    OpenDatabase(path, Mode::ReadWrite, Check::HeadOnly);
+  } catch (const StoreError &error) {
+    if (error.Reason() != Kind::ReadOnly) {
+      throw;
+    }
+    throw Told(
+        Kind::ReadOnly,
+        QT_TRANSLATE_NOOP("Database",
+                          "A save in the data file \"%1\" was cut off and has to be undone before the file can be read. Please allow "
+                          "writing to the file and its folder."),
+        {path});
+  }
 }
 
 void Database::SetBusyTimeout(int milliseconds) { busyTimeoutMs = milliseconds; }
@@ -149,20 +237,27 @@ Database::~Database() {
   QSqlDatabase::removeDatabase(connection_);
 }
 
-void Database::Verify(const QString &schema, const QString &path) const {
+void Database::CheckHead(const QString &schema, const QString &path) const {
   if (Pragma(schema, "application_id", path) != kApplicationId) {
     throw Worded(Kind::Foreign, path);
   }
   if (Pragma(schema, "user_version", path) > kNewestVersion) {
     throw Worded(Kind::NewerVersion, path);
   }
+}
+
+void Database::CheckEveryPage(const QString &schema, const QString &path) const {
   QSqlQuery check(handle_);
   if (!check.exec(QStringLiteral("PRAGMA %1.quick_check(1)").arg(schema)) || !check.next()) {
     throw Failure(check, path);
   }
   if (check.value(0).toString() != QLatin1String("ok")) {
-    throw Worded(Kind::Damaged, path);
+    throw Damage(path);
   }
+}
+
+qlonglong Database::DataVersion(const QString &schema) const {
+  return Pragma(schema, "data_version", schema == QLatin1String("main") ? path_ : attached_.value(schema));
 }
 
 qlonglong Database::Pragma(const QString &schema, const char *name, const QString &path) const {
@@ -198,7 +293,8 @@ void Database::Attach(const QString &path, const QString &schema) {
   Execute(QStringLiteral("ATTACH DATABASE ? AS %1").arg(schema), {path});
   attached_.insert(schema, path);
   try {
-    Verify(schema, path);
+    CheckHead(schema, path);
+    CheckEveryPage(schema, path);
   } catch (const StoreError &) {
     Detach(schema);
     throw;
@@ -218,7 +314,15 @@ StoreError Database::Failure(const QSqlQuery &query) const {
 }
 
 StoreError Database::Failure(const QSqlQuery &query, const QString &path) const {
-  switch (query.lastError().nativeErrorCode().toInt() & 0xFF) {
+  const int code = query.lastError().nativeErrorCode().toInt();
+  if (code == kReplaced) {
+    return Told(Kind::ReadOnly,
+                QT_TRANSLATE_NOOP("Database",
+                                  "The data file \"%1\" was replaced while this program had it open, so nothing can be saved in it. Please "
+                                  "start this program again and repeat the change."),
+                {path});
+  }
+  switch (code & 0xFF) {
     case kBusy:
     case kLocked: return Worded(Kind::Locked, path);
     case kReadOnly:
@@ -228,7 +332,7 @@ StoreError Database::Failure(const QSqlQuery &query, const QString &path) const 
     case kFull: return Worded(Kind::NoSpace, path);
     case kCorrupt:
     case kNotADatabase:  // the file's first bytes were right, so it was one
-      return Worded(Kind::Damaged, path);
+      return Damage(path);
     default:
       return StoreError(
           tr("The data file \"%1\" refused a request: %2.").arg(QDir::toNativeSeparators(path), query.lastError().databaseText()));

@@ -9,6 +9,8 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <cstdio>
+
 namespace {
 
 QString Tr(const char *text) { return QCoreApplication::translate("FileTools", text); }
@@ -43,8 +45,32 @@ void WriteWholeFile(const QString &path, const QByteArray &content) {
   if (!QDir().mkpath(folder)) {
     ThrowNotWritten(path, Tr(QT_TRANSLATE_NOOP("FileTools", "its folder cannot be made")));
   }
+  if (QFileInfo(path).isDir()) {
+    throw StoreError(Tr(QT_TRANSLATE_NOOP("FileTools", "There is a folder at \"%1\" where a file should be. Please move it away."))
+                         .arg(QDir::toNativeSeparators(path)),
+                     StoreError::Kind::NotAFile);
+  }
   QSaveFile file(path);
   if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.commit()) {
     ThrowNotWritten(path, file.errorString());
   }
+}
+
+bool IsTaken(const QString &path) {
+  const QFileInfo info(path);
+  return info.exists() || info.isSymbolicLink();
+}
+
+QString SetAside(const QString &path) {
+  QString name = path + QStringLiteral(".damaged");
+  for (int number = 2; IsTaken(name); ++number) {
+    name = QStringLiteral("%1.%2.damaged").arg(path).arg(number);
+  }
+  // Not QFile::rename, which copies where it cannot move: that would leave half a file on a full disk.
+  if (std::rename(QFile::encodeName(path).constData(), QFile::encodeName(name).constData()) != 0) {
+    throw StoreError(Tr(QT_TRANSLATE_NOOP("FileTools", "\"%1\" cannot be moved away. Please allow writing to its folder."))
+                         .arg(QDir::toNativeSeparators(path)),
+                     StoreError::Kind::ReadOnly);
+  }
+  return name;
 }

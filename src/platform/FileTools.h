@@ -13,3 +13,11 @@ QByteArray ReadWholeFile(const QString &path);
 /// Writes aside and renames, so that the file is the old one or the new one and never half of each. Makes the folder when needed.
 /// @throws StoreError that names the file, which is then as it was
 void WriteWholeFile(const QString &path, const QByteArray &content);
+
+/// Moves a file, link or folder out of the way to a name beside it that no other has: "RECOS.Dat.damaged", "RECOS.Dat.2.damaged", ...
+/// Returns that name.
+/// @throws StoreError when it cannot be moved
+QString SetAside(const QString &path);
+
+/// Whether anything lies under the name, a link into nothing too.
+bool IsTaken(const QString &path);

@@ -11,22 +11,118 @@
 #include <QFileInfo>
 
 #include <array>
+#include <cstdio>
 #include <utility>
 #include <vector>
 
 namespace {
 
+using Kind = StoreError::Kind;
+
 // Files that the store engine lays beside a store. Left there, they would be played into the copy that is put back.
 constexpr std::array kCompanions{"-journal", "-wal", "-shm"};
 
-// A name beside `path` that no file has yet: earlier damaged stores are somebody's data too.
-QString FreeName(const QString &path) {
-  QString name = path + QStringLiteral(".damaged");
-  for (int number = 2; QFileInfo::exists(name); ++number) {
-    name = QStringLiteral("%1.%2.damaged").arg(path).arg(number);
+// Keeps other programs from writing into the store for as long as it lives.
+class ReadHold {
+ public:
+  explicit ReadHold(Database &store) : store_(store) {
+    store_.Execute(QStringLiteral("BEGIN"));
+    store_.OpenRecordset(QStringLiteral("SELECT count(*) FROM sqlite_master"));
   }
-  return name;
+  ~ReadHold() {
+    try {
+      store_.Execute(QStringLiteral("ROLLBACK"));
+    } catch (const StoreError &) {
+      // Nothing was written, so there is nothing to undo.
+    }
+  }
+  ReadHold(const ReadHold &) = delete;
+  ReadHold &operator=(const ReadHold &) = delete;
+
+ private:
+  Database &store_;
+};
+
+// The count of saves in a store's head. Each save raises it, and the second place where it is written follows.
+QByteArray SaveCount(const QByteArray &content) { return content.mid(24, 4); }
+bool IsCountWhole(const QByteArray &content) { return SaveCount(content) == content.mid(92, 4); }
+
+QStringList Tables(Database &store, const QString &schema) {
+  QStringList names;
+  for (Recordset rows = store.OpenRecordset(QStringLiteral("SELECT name FROM %1.sqlite_master WHERE type = 'table'").arg(schema));
+       !rows.AtEnd(); rows.MoveNext()) {
+    names << rows.Field(QStringLiteral("name")).toString();
+  }
+  return names;
 }
+
+QString Quoted(QString name) { return u'"' + name.replace(u'"', QStringLiteral("\"\"")) + u'"'; }
+
+bool HasRows(Database &store, const QString &schema, const QString &table) {
+  return !store.OpenRecordset(QStringLiteral("SELECT 1 AS Answer FROM %1.%2 LIMIT 1").arg(schema, Quoted(table))).IsEmpty();
+}
+
+// The kept copy's tables beside the store's, for questions over both.
+class BesideCopy {
+ public:
+  explicit BesideCopy(Database &store) : store_(store) { store_.Attach(StoreKeeper::KeptPath(store.Path()), QStringLiteral("kept")); }
+  ~BesideCopy() {
+    try {
+      store_.Detach(QStringLiteral("kept"));
+    } catch (const StoreError &) {
+      // It goes with the store's own connection.
+    }
+  }
+  BesideCopy(const BesideCopy &) = delete;
+  BesideCopy &operator=(const BesideCopy &) = delete;
+
+  bool CopyHoldsWhatTheStoreLost() const {
+    const QStringList present = Tables(store_, QStringLiteral("main"));
+    for (const QString &table : Tables(store_, QStringLiteral("kept"))) {
+      const bool isLost = !present.contains(table, Qt::CaseInsensitive) || !HasRows(store_, QStringLiteral("main"), table);
+      if (isLost && HasRows(store_, QStringLiteral("kept"), table)) {
+        return true;
+      }
+    }
+    return false;
+  }
+
+  // Whether every row of every table and every index say the same. A save that was cut off leaves bytes behind in pages that hold nothing.
+  bool IsSameContent() const {
+    const Recordset check = store_.OpenRecordset(QStringLiteral("PRAGMA main.integrity_check(1)"));
+    if (check.IsEmpty() || check.Field(QStringLiteral("integrity_check")).toString() != QLatin1String("ok")) {
+      return false;
+    }
+    QStringList tables = Tables(store_, QStringLiteral("kept"));
+    if (tables != Tables(store_, QStringLiteral("main"))) {
+      return false;
+    }
+    tables << QStringLiteral("sqlite_master");
+    for (const QString &table : std::as_const(tables)) {
+      const QString here = RowsOf(QStringLiteral("main"), table);
+      const QString there = RowsOf(QStringLiteral("kept"), table);
+      for (const auto &[one, other] : {std::pair(here, there), std::pair(there, here)}) {
+        if (!store_.OpenRecordset(QStringLiteral("SELECT 1 AS Answer FROM (%1 EXCEPT %2) LIMIT 1").arg(one, other)).IsEmpty()) {
+          return false;
+        }
+      }
+    }
+    return true;
+  }
+
+ private:
+  // Every value written out, so that columns which take "a" and "A" for the same are compared to the letter.
+  QString RowsOf(const QString &schema, const QString &table) const {
+    QStringList values{QStringLiteral("rowid")};
+    for (Recordset column = store_.OpenRecordset(QStringLiteral("PRAGMA kept.table_info(%1)").arg(Quoted(table))); !column.AtEnd();
+         column.MoveNext()) {
+      values << QStringLiteral("quote(%1)").arg(Quoted(column.Field(QStringLiteral("name")).toString()));
+    }
+    return QStringLiteral("SELECT %1 FROM %2.%3").arg(values.join(u','), schema, Quoted(table));
+  }
+
+  Database &store_;
+};
 
 }  // namespace
 
@@ -35,68 +131,164 @@ std::optional<QDateTime> StoreKeeper::KeptMoment(const QString &path) {
   return kept.isFile() ? std::optional<QDateTime>(kept.lastModified()) : std::nullopt;
 }
 
-std::shared_ptr<Database> StoreKeeper::OpenUserStore(const QString &path) {
-  std::shared_ptr<Database> database;
-  try {
-    database = Database::OpenDatabase(path);
-  } catch (const StoreError &error) {
-    const bool helps = error.Reason() == StoreError::Kind::Damaged || error.Reason() == StoreError::Kind::Missing;
-    const std::optional<QDateTime> moment = KeptMoment(path);
-    if (!helps || !moment) {
-      throw;
+std::optional<QDateTime> StoreKeeper::SoundCopyMoment(const QString &path) {
+  const std::optional<QDateTime> moment = KeptMoment(path);
+  if (moment) {
+    try {
+      Database::OpenDatabase(KeptPath(path), Database::Mode::ReadOnly);
+    } catch (const StoreError &) {
+      return std::nullopt;
     }
-    throw StoreError(error.Sentence() + u' ' + tr("A copy kept on %1 can be put back.").arg(moment->toString(kMomentFormat)),
-                     error.Reason());
   }
+  return moment;
+}
+
+std::shared_ptr<Database> StoreKeeper::Open(const QString &path, Database::Mode mode, Doubt doubt) {
+  const auto offer = [&](const StoreError &error, RestorableError::State state) {
+    const std::optional<QDateTime> moment = SoundCopyMoment(path);
+    if (!moment) {
+      throw error;
+    }
+    throw RestorableError(error.Sentence() + u' ' + tr("A copy kept on %1 can be put back.").arg(moment->toString(kMomentFormat)),
+                          error.Reason(), state);
+  };
   try {
-    KeepCopy(path);
+    const auto store = Database::OpenDatabase(path, mode, Database::Check::HeadOnly);
+    CheckContent(*store, doubt);
+    store->UseRollbackJournal();
+    return store;
+  } catch (const RestorableError &doubtful) {
+    offer(doubtful, doubtful.StoreState());
+  } catch (const StoreError &error) {
+    switch (error.Reason()) {
+      case Kind::Damaged:
+      case Kind::Missing:
+      case Kind::Foreign:
+      case Kind::NotAFile:
+      case Kind::NewerVersion: offer(error, RestorableError::State::Unusable); break;
+      default: throw;
+    }
+  }
+  return nullptr;
+}
+
+// A store that equals its copy is sound as the copy was. One that differs although no save was counted was changed by something else:
+// a failing disk, a tool that writes bytes.
+void StoreKeeper::CheckContent(Database &store, Doubt doubt) {
+  const QString kept = KeptPath(store.Path());
+  QByteArray content;
+  QByteArray copy;
+  {
+    const ReadHold hold(store);
+    content = ReadWholeFile(store.Path());
+    copy = QFileInfo(kept).isFile() ? ReadWholeFile(kept) : QByteArray();
+    if (content == copy) {
+      return;
+    }
+    store.CheckEveryPage();
+  }
+  const bool isUnexplained = SaveCount(content) == SaveCount(copy) || !IsCountWhole(content);
+  if (doubt == Doubt::Accept || copy.isEmpty() || !isUnexplained || !SoundCopyMoment(store.Path())) {
+    return;
+  }
+  bool isSame = false;
+  try {
+    isSame = BesideCopy(store).IsSameContent();
+  } catch (const StoreError &) {
+    // What cannot be compared is not the same.
+  }
+  if (!isSame) {
+    throw RestorableError(tr("The data file \"%1\" was changed by something other than this program, and what it holds may be wrong. "
+                             "Please check your persons and places, or put a sound copy of the file in its place.")
+                              .arg(QDir::toNativeSeparators(store.Path())),
+                          Kind::Damaged, RestorableError::State::Doubtful);
+  }
+}
+
+std::shared_ptr<Database> StoreKeeper::OpenUserStore(const QString &path, Doubt doubt) {
+  const auto store = Open(path, Database::Mode::ReadWrite, doubt);
+  try {
+    CopySound(*store);
   } catch (const StoreError &error) {
     Notices::Show({Notice::Kind::Warning, QString(), error.Sentence()});
   }
-  return database;
+  return store;
 }
 
-void StoreKeeper::KeepCopy(const QString &path) {
+std::shared_ptr<Database> StoreKeeper::OpenForReading(const QString &path, Doubt doubt) {
+  return Open(path, Database::Mode::ReadOnly, doubt);
+}
+
+void StoreKeeper::KeepCopy(Database &store) {
+  CheckContent(store, Doubt::Refuse);
+  CopySound(store);
+}
+
+void StoreKeeper::CopySound(Database &store) {
+  const QString kept = KeptPath(store.Path());
+  if (QFileInfo(kept).isFile()) {
+    {
+      const ReadHold hold(store);
+      if (ReadWholeFile(kept) == ReadWholeFile(store.Path())) {
+        return;
+      }
+    }
+    try {
+      if (BesideCopy(store).CopyHoldsWhatTheStoreLost()) {
+        return;
+      }
+    } catch (const StoreError &) {
+      if (SoundCopyMoment(store.Path())) {
+        throw;
+      }
+      SetAside(kept);  // damaged as it is, it may hold what is nowhere else
+    }
+  }
   QByteArray content;
   {
-    // A read transaction keeps other programs from writing into the file while it is copied.
-    const auto database = Database::OpenDatabase(path, Database::Mode::ReadOnly);
-    database->Execute(QStringLiteral("BEGIN"));
-    database->OpenRecordset(QStringLiteral("SELECT count(*) FROM sqlite_master"));
-    content = ReadWholeFile(path);
+    const ReadHold hold(store);
+    content = ReadWholeFile(store.Path());
   }
-  const QString kept = KeptPath(path);
-  if (!QFileInfo::exists(kept) || ReadWholeFile(kept) != content) {
-    WriteWholeFile(kept, content);
-  }
+  WriteWholeFile(kept, content);
 }
 
 QString StoreKeeper::RestoreCopy(const QString &path) {
   const QString kept = KeptPath(path);
   Database::OpenDatabase(kept, Database::Mode::ReadOnly);
-  const QString fresh = path + QStringLiteral(".restoring");
+  // Of a link it is the file behind it that is damaged.
+  const QString behind = QFileInfo(path).canonicalFilePath();
+  const QString place = behind.isEmpty() ? path : behind;
+  const QString fresh = place + QStringLiteral(".restoring");
   WriteWholeFile(fresh, ReadWholeFile(kept));
 
-  const QString damaged = FreeName(path);
-  std::vector<std::pair<QString, QString>> moves{{path, damaged}};
-  for (const char *companion : kCompanions) {
-    moves.emplace_back(path + QLatin1String(companion), damaged + QLatin1String(companion));
-  }
-  const bool hadStore = QFileInfo::exists(path);
-  std::erase_if(moves, [](const auto &move) { return !QFileInfo::exists(move.first); });
-  moves.emplace_back(fresh, path);
-
-  for (size_t done = 0; done < moves.size(); ++done) {
-    if (QFile::rename(moves[done].first, moves[done].second)) {
-      continue;
+  std::vector<std::pair<QString, QString>> moved;
+  try {
+    const QString aside = IsTaken(place) ? SetAside(place) : QString();
+    if (!aside.isEmpty()) {
+      moved.emplace_back(place, aside);
     }
-    while (done-- > 0) {
-      QFile::rename(moves[done].second, moves[done].first);
+    for (const char *companion : kCompanions) {
+      const QString beside = place + QLatin1String(companion);
+      if (!IsTaken(beside)) {
+        continue;
+      }
+      // Under the damaged store's new name it stays that store's.
+      const QString paired = aside + QLatin1String(companion);
+      const bool isPaired = !aside.isEmpty() && QFile::rename(beside, paired);
+      moved.emplace_back(beside, isPaired ? paired : SetAside(beside));
+    }
+    if (!QFile::rename(fresh, place)) {
+      throw StoreError(
+          tr("The kept copy of \"%1\" cannot be put back. Please allow writing to its folder.").arg(QDir::toNativeSeparators(path)),
+          Kind::ReadOnly);
+    }
+    return aside;
+  } catch (const StoreError &) {
+    while (!moved.empty()) {
+      std::rename(QFile::encodeName(moved.back().second).constData(), QFile::encodeName(moved.back().first).constData());
+      moved.pop_back();
     }
     QFile::remove(fresh);
-    throw StoreError(
-        tr("The kept copy of \"%1\" cannot be put back. Please allow writing to its folder.").arg(QDir::toNativeSeparators(path)),
-        StoreError::Kind::ReadOnly);
+    throw;
   }
-  return hadStore ? damaged : QString();
 }

@@ -10,6 +10,7 @@
 #include <QStandardPaths>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -83,16 +84,17 @@ void UserSettings::SetBoolValue(const SettingKey &key, bool value) {
 }
 
 FileUserSettings::FileUserSettings(const QString &path)
-    : file_(std::make_unique<QSettings>(
-          path.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + QStringLiteral("/orvani/orvani.conf")
-                         : path,
-          QSettings::IniFormat)) {
+    : path_(path), file_(std::make_unique<QSettings>(PathOf(path), QSettings::IniFormat)) {
   CheckReadable();
+  TakeIn();
 }
 
 FileUserSettings::~FileUserSettings() = default;
 
-QString FileUserSettings::Path() const { return file_->fileName(); }
+QString FileUserSettings::PathOf(const QString &path) {
+  return path.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + QStringLiteral("/orvani/orvani.conf")
+                        : path;
+}
 
 // Without this a file that cannot be read would count as an empty one, and the chart of another ayanamsha would be shown unasked.
 void FileUserSettings::CheckReadable() const {
@@ -122,20 +124,38 @@ QString FileUserSettings::FullKey(const QString &section, const QString &key) co
   return storedSection + u'/' + storedKey;
 }
 
-std::optional<QString> FileUserSettings::Stored(const QString &section, const QString &key) const {
-  const QVariant value = file_->value(FullKey(section, key));
-  if (!value.isValid()) {
-    return std::nullopt;
+void FileUserSettings::TakeIn() {
+  values_.clear();
+  const QStringList keys = file_->allKeys();
+  for (const QString &key : keys) {
+    const QVariant value = file_->value(key);
+    // A comma in a hand-written value makes the reader see a list.
+    values_.insert(key.toLower(),
+                   value.typeId() == QMetaType::QStringList ? value.toStringList().join(QStringLiteral(", ")) : value.toString());
   }
-  // A comma in a hand-written value makes the reader see a list.
-  return value.typeId() == QMetaType::QStringList ? value.toStringList().join(QStringLiteral(", ")) : value.toString();
+}
+
+bool FileUserSettings::Refresh() {
+  file_->sync();
+  const QHash<QString, QString> before = std::exchange(values_, {});
+  TakeIn();
+  return values_ != before;
+}
+
+std::optional<QString> FileUserSettings::Stored(const QString &section, const QString &key) const {
+  const auto found = values_.constFind((section + u'/' + key).toLower());
+  return found == values_.constEnd() ? std::nullopt : std::optional<QString>(*found);
 }
 
 void FileUserSettings::SetValue(const QString &section, const QString &key, const QString &value) {
+  file_->sync();  // another program's spelling of the key is kept, and so are its values
   file_->setValue(FullKey(section, key), value);
   file_->sync();
+  values_.insert((section + u'/' + key).toLower(), value);
   if (file_->status() == QSettings::AccessError) {
-    throw StoreError(tr("The settings file \"%1\" cannot be written. Please allow writing to the file and its folder.").arg(Path()),
+    throw StoreError(tr("The settings file \"%1\" cannot be written. Please allow writing to the file and its folder, and check that the "
+                        "disk is not full.")
+                         .arg(Path()),
                      StoreError::Kind::ReadOnly);
   }
 }

@@ -24,6 +24,10 @@ class UserSettings {
   /// @throws StoreError when the value cannot be kept
   virtual void SetValue(const QString &section, const QString &key, const QString &value) = 0;
 
+  /// Takes in what other programs have stored since, and tells whether that was anything. Between two calls the values stand still, so that
+  /// all charts on the screen follow the same ones.
+  virtual bool Refresh() { return false; }
+
   QString Value(const QString &section, const QString &key, const QString &fallback = QString()) const;
   /// A text that is no whole number gives the fallback.
   int IntValue(const QString &section, const QString &key, int fallback) const;
@@ -39,7 +43,8 @@ class UserSettings {
   void SetBoolValue(const SettingKey &key, bool value);
 };
 
-/// Settings in a file of the user's configuration folder; each write is on disk when the call returns.
+/// Settings in a file of the user's configuration folder; each write is on disk when the call returns. Programs that write at the same
+/// time keep each other's values.
 class FileUserSettings : public UserSettings {
   Q_DECLARE_TR_FUNCTIONS(FileUserSettings)
 
@@ -52,14 +57,20 @@ class FileUserSettings : public UserSettings {
   using UserSettings::SetValue;
   std::optional<QString> Stored(const QString &section, const QString &key) const override;
   void SetValue(const QString &section, const QString &key, const QString &value) override;
+  bool Refresh() override;
 
-  QString Path() const;
+  QString Path() const { return PathOf(path_); }
+  /// Where the settings of a constructor's `path` lie.
+  static QString PathOf(const QString &path);
 
  private:
   void CheckReadable() const;
   QString FullKey(const QString &section, const QString &key) const;
+  void TakeIn();
 
+  QString path_;
   std::unique_ptr<QSettings> file_;
+  QHash<QString, QString> values_;  // of the whole file, by full key
 };
 
 /// Settings that live as long as the object, for tests.

@@ -4,16 +4,23 @@
 
 #include "platform/Errors.h"
 #include "platform/FileTools.h"
+#include "platform/Notices.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
+#include <QLockFile>
+#include <QSet>
 
+#include <algorithm>
 #include <optional>
 
 namespace {
 
 const QString kDefaultSection = QStringLiteral("Orvani");
 const QString kDefaultFile = QStringLiteral("GENDAT.INI");
+
+constexpr int kLongestWaitMs = 2000;
 
 bool Same(const QString &a, const QString &b) { return a.compare(b, Qt::CaseInsensitive) == 0; }
 
@@ -59,6 +66,17 @@ class IniText {
       at = static_cast<int>(lines_.size());
     }
     lines_.insert(at, key.toUtf8() + '=' + value.toUtf8());
+  }
+
+  // Whether a line of it is a section, an entry or a remark, or it is empty.
+  bool IsConfiguration() const {
+    const bool isEmpty = std::all_of(lines_.begin(), lines_.end(), [](const QByteArray &line) { return line.trimmed().isEmpty(); });
+    const bool isText = std::none_of(lines_.begin(), lines_.end(), [](const QByteArray &line) { return line.contains('\0'); });
+    return isEmpty || (isText && std::any_of(lines_.begin(), lines_.end(), [](const QByteArray &line) {
+                         const QByteArray start = line.trimmed();
+                         return start.startsWith(';') || start.startsWith('#') || (start.startsWith('[') && start.contains(']')) ||
+                                !Split(line).first.isEmpty();
+                       }));
   }
 
   QByteArray Content() const { return mark_ + lines_.join(lineEnd_) + lineEnd_; }
@@ -113,11 +131,29 @@ QString clsIni::FilePath(const QString &file) const {
 
 QString clsIni::GetIniString(const QString &key, const QString &defaultValue, const QString &section, const QString &file) const {
   const QString path = FilePath(file);
-  if (!QFileInfo::exists(path)) {
-    return defaultValue.left(kLongestValue);
+  static QSet<QString> told;  // a screen asks for many values, and one word on the file is enough
+  QString fault;
+  std::optional<QString> value;
+  try {
+    const IniText text(QFileInfo::exists(path) ? ReadWholeFile(path) : QByteArray());
+    if (text.IsConfiguration()) {
+      value = text.Value(section.isEmpty() ? kDefaultSection : section, key.trimmed());
+    } else {
+      fault = tr("The configuration file \"%1\" is damaged, so the usual choices hold. Please mend it or move it away.");
+    }
+  } catch (const StoreError &) {
+    fault = QFileInfo(path).isDir() ? tr("There is a folder at \"%1\" where the configuration file should be, so the usual choices hold. "
+                                         "Please move it away.")
+                                    : tr("The configuration file \"%1\" cannot be read, so the usual choices hold. Please give yourself "
+                                         "the right to read it.");
   }
-  const IniText text(ReadWholeFile(path));
-  return text.Value(section.isEmpty() ? kDefaultSection : section, key.trimmed()).value_or(defaultValue).left(kLongestValue);
+  if (fault.isEmpty()) {
+    told.remove(path);
+  } else if (!told.contains(path)) {
+    told.insert(path);
+    Notices::Show({Notice::Kind::Warning, QString(), fault.arg(QDir::toNativeSeparators(path))});
+  }
+  return value.value_or(defaultValue).left(kLongestValue);
 }
 
 void clsIni::WriteIniString(const QString &key, const QString &value, const QString &section, const QString &file) const {
@@ -132,7 +168,32 @@ void clsIni::WriteIniString(const QString &key, const QString &value, const QStr
   line.replace(QStringLiteral("\r\n"), QStringLiteral(" ")).replace(u'\n', u' ').replace(u'\r', u' ');
 
   const QString path = FilePath(file);
-  IniText text(QFileInfo::exists(path) ? ReadWholeFile(path) : QByteArray());
+  QDir().mkpath(QFileInfo(path).path());
+  // Another window writes its own lines: what it wrote since is read first, and nobody writes in between.
+  QLockFile oneAtATime(path + QStringLiteral(".lock"));
+  if (!oneAtATime.tryLock(kLongestWaitMs) && oneAtATime.error() == QLockFile::LockFailedError) {
+    throw StoreError(tr("The configuration file \"%1\" is in use by another program. Please close that program and try again.")
+                         .arg(QDir::toNativeSeparators(path)),
+                     StoreError::Kind::Locked);
+  }
+  IniText text(QFileInfo(path).isFile() ? ReadWholeFile(path) : QByteArray());
+  const bool isDamaged = !text.IsConfiguration();
+  if (isDamaged) {
+    text = IniText(QByteArray());
+  }
   text.SetValue(name.trimmed(), key.trimmed(), line);
-  WriteWholeFile(path, text.Content());
+  if (!isDamaged) {
+    WriteWholeFile(path, text.Content());
+    return;
+  }
+  const QString aside = SetAside(path);
+  try {
+    WriteWholeFile(path, text.Content());
+  } catch (const StoreError &) {
+    QFile::rename(aside, path);
+    throw;
+  }
+  Notices::Show({Notice::Kind::Information, QString(),
+                 tr("The damaged configuration file \"%1\" was set aside as \"%2\", and a new one was begun.")
+                     .arg(QDir::toNativeSeparators(path), QFileInfo(aside).fileName())});
 }

@@ -18,14 +18,15 @@ class clsIni {
 
   explicit clsIni(AppPaths paths) : paths_(std::move(paths)) {}
 
-  /// The value under the key, trimmed, or `defaultValue` when file, section or key is not there.
+  /// The value under the key, trimmed, or `defaultValue` when file, section or key is not there. A file that cannot be read is told once
+  /// by a notice, and is as good as an empty one.
   /// @param section empty for "Orvani"
   /// @param file empty for GENDAT.INI; a bare name lies beside it
-  /// @throws StoreError when the file is there and cannot be read
   QString GetIniString(const QString &key, const QString &defaultValue, const QString &section = QString(),
                        const QString &file = QString()) const;
 
-  /// Sets the value; makes section, file and folder when they are missing. Line breaks in the value become blanks.
+  /// Sets the value; makes section, file and folder when they are missing. Line breaks in the value become blanks. Lines that another
+  /// program wrote meanwhile stay; a damaged file is set aside, with a notice.
   /// @throws StoreError when the file cannot be written; it is then as it was
   void WriteIniString(const QString &key, const QString &value, const QString &section = QString(), const QString &file = QString()) const;
 

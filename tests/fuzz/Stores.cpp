@@ -15,7 +15,7 @@ namespace {
 // Gives nothing for a store that was refused.
 std::shared_ptr<Database> Opened(const QString &path, const QByteArray &content) {
   try {
-    return StoreKeeper::OpenUserStore(path);
+    return StoreKeeper::OpenUserStore(path, StoreKeeper::Doubt::Accept);
   } catch (const StoreError &error) {
     Require(!error.Sentence().isEmpty(), "the fault has a sentence");
     Require(FuzzFolder::Read(path) == content, "a store that is refused is left as it is");

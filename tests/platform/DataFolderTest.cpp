@@ -80,15 +80,27 @@ TEST_F(DataFolderTest, AnUpgradeRenewsTextsAndNeverTheUsersOwn) {
   Install("2");
   QFile::remove(paths.LanguageDataPath("ENGLISH"));
   QFile::remove(paths.DailyPath());
-  WriteWholeFile(StoreKeeper::KeptPath(At("home/orvani/EPHE/COMMON/Daily.dat")), "my residences");
+  const QString kept = StoreKeeper::KeptPath(At("home/orvani/EPHE/COMMON/Daily.dat"));
+  const QByteArray residences = ReadWholeFile(Make(kept, {"CREATE TABLE Person (Name TEXT)"}));
   AppPaths::Locate(InstalledAt("share"));
   EXPECT_EQ(content("COMMON/LANGS.Dat"), "2");
   EXPECT_EQ(content("ENGLISH/ENGLISH.DAT"), "2");
   EXPECT_EQ(content("SEED"), "2\n");
   EXPECT_EQ(content("COMMON/RECOS.Dat"), "my persons");
   EXPECT_EQ(content("INIFILES/GENDAT.INI"), "my settings");
-  EXPECT_EQ(content("COMMON/Daily.dat"), "my residences") << "the kept copy goes before an empty store";
+  EXPECT_EQ(content("COMMON/Daily.dat"), residences.toStdString()) << "the kept copy goes before an empty store";
   EXPECT_EQ(notices.Seen().size(), 1U);
+
+  // A copy that is damaged too is no copy, and a link into nothing may be a drive that is away.
+  QFile::remove(paths.DailyPath());
+  WriteWholeFile(kept, residences.first(50));
+  QFile::remove(At("home/orvani/EPHE/COMMON/RECOS.Dat"));
+  ASSERT_TRUE(QFile::link(At("drive/RECOS.Dat"), At("home/orvani/EPHE/COMMON/RECOS.Dat")));
+  QDir().mkpath(At("drive"));
+  AppPaths::Locate(InstalledAt("share"));
+  EXPECT_EQ(content("COMMON/Daily.dat"), "2");
+  EXPECT_EQ(ReadWholeFile(kept), residences.first(50)) << "it stays for somebody who can mend it";
+  EXPECT_FALSE(QFileInfo::exists(At("drive/RECOS.Dat")));
 }
 
 TEST_F(DataFolderTest, AMissingDataFileIsNamedInTheFixedWords) {
@@ -147,15 +159,17 @@ TEST_F(DataFolderTest, ADamagedStoreComesBackFromItsKeptCopyAndIsNotLost) {
   const QByteArray kept = ReadWholeFile(StoreKeeper::KeptPath(path));
   for (const char *aside : {".damaged", ".2.damaged"}) {
     WriteWholeFile(path, damage);
-    WriteWholeFile(path + "-journal", "left by a crash");
     QString sentence;
     EXPECT_EQ(Refusal([&] { StoreKeeper::OpenUserStore(path); }, &sentence), StoreError::Kind::Damaged);
+    EXPECT_TRUE(sentence.contains("cut short: 3000 of its")) << sentence;
     EXPECT_TRUE(sentence.contains(StoreKeeper::KeptMoment(path)->toString("yyyy-MM-dd HH:mm"))) << sentence;
     EXPECT_EQ(ReadWholeFile(StoreKeeper::KeptPath(path)), kept) << "damage never reaches the copy";
 
+    WriteWholeFile(path + "-journal", "left by a crash");
     EXPECT_EQ(StoreKeeper::RestoreCopy(path), path + aside);
     EXPECT_EQ(ReadWholeFile(path + aside), damage);
     EXPECT_FALSE(QFileInfo::exists(path + "-journal")) << "an old journal would be played into the copy";
+    EXPECT_EQ(ReadWholeFile(path + aside + "-journal"), "left by a crash") << "it belongs to the damaged store";
     EXPECT_EQ(StoreKeeper::OpenUserStore(path)->OpenRecordset("Person").RecordCount(), 2);
   }
 
@@ -163,6 +177,85 @@ TEST_F(DataFolderTest, ADamagedStoreComesBackFromItsKeptCopyAndIsNotLost) {
   const QByteArray before = ReadWholeFile(path);
   EXPECT_EQ(Refusal([&] { StoreKeeper::RestoreCopy(path); }), StoreError::Kind::Damaged);
   EXPECT_EQ(ReadWholeFile(path), before);
+}
+
+TEST_F(DataFolderTest, AStoreThatIsDamagedWhileItIsOpenIsNotCopiedAtTheEnd) {
+  const QString path = MakePersons();
+  const auto store = StoreKeeper::OpenUserStore(path);
+  const QByteArray sound = ReadWholeFile(path);
+  for (const qsizetype size : {sound.size(), qsizetype{5000}}) {
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    file.write(QByteArray(sound).replace("Mira", "Mara").first(size));
+    file.resize(size);
+    file.close();
+    EXPECT_EQ(Refusal([&] { StoreKeeper::KeepCopy(*store); }), StoreError::Kind::Damaged);
+    EXPECT_EQ(ReadWholeFile(StoreKeeper::KeptPath(path)), sound);
+  }
+}
+
+// What a copy must never be made from, and what it must never give way to.
+TEST_F(DataFolderTest, AnEmptiedStoreOrADamagedCopyIsNoReasonToLoseTheOther) {
+  const QString path = MakePersons();
+  const QString kept = StoreKeeper::KeptPath(path);
+  StoreKeeper::OpenUserStore(path);
+  const QByteArray full = ReadWholeFile(kept);
+  for (const QStringList &statements : {QStringList{"DELETE FROM Person"}, {"DROP VIEW qryPersonName", "DROP TABLE Person"}}) {
+    RunOutside(path, statements);
+    StoreKeeper::OpenUserStore(path);
+    EXPECT_EQ(ReadWholeFile(kept), full) << statements.join("; ");
+  }
+  RunOutside(path, {"CREATE TABLE Person (Name TEXT)", "INSERT INTO Person VALUES ('Nila')"});
+  StoreKeeper::OpenUserStore(path);
+  EXPECT_EQ(ReadWholeFile(kept), ReadWholeFile(path)) << "a store with persons in it is kept again";
+
+  WriteWholeFile(kept, full.first(6000));
+  StoreKeeper::OpenUserStore(path);
+  EXPECT_EQ(ReadWholeFile(kept), ReadWholeFile(path));
+  EXPECT_EQ(ReadWholeFile(kept + ".damaged"), full.first(6000));
+}
+
+TEST_F(DataFolderTest, BytesThatNoSaveChangedAreDoubtedAndWhatASaveLeavesBehindIsNot) {
+  const QString path = MakePersons();
+  StoreKeeper::OpenUserStore(path);
+  const QByteArray sound = ReadWholeFile(path);
+
+  QByteArray changed = sound;
+  changed.replace("Mira", "mira");
+  WriteWholeFile(path, changed);
+  try {
+    StoreKeeper::OpenUserStore(path);
+    ADD_FAILURE() << "a name that changed by itself went unnoticed";
+  } catch (const RestorableError &error) {
+    EXPECT_EQ(error.StoreState(), RestorableError::State::Doubtful);
+    EXPECT_TRUE(error.Sentence().contains(path)) << error.Sentence();
+  }
+  EXPECT_EQ(ReadWholeFile(StoreKeeper::KeptPath(path)), sound);
+  StoreKeeper::OpenUserStore(path, StoreKeeper::Doubt::Accept);
+  EXPECT_EQ(ReadWholeFile(StoreKeeper::KeptPath(path)), changed) << "the user's word";
+  StoreKeeper::OpenUserStore(path);
+
+  // A page that holds three rows has room between them: what lies there is nobody's.
+  QByteArray leftBehind = ReadWholeFile(path);
+  ASSERT_EQ(leftBehind.mid(4096 + 2000, 4), QByteArray(4, '\0'));
+  leftBehind.replace(4096 + 2000, 4, "Tara");
+  WriteWholeFile(path, leftBehind);
+  StoreKeeper::OpenUserStore(path);
+  EXPECT_EQ(ReadWholeFile(StoreKeeper::KeptPath(path)), leftBehind);
+}
+
+// A link to a store on another drive stays a link, and the damaged file stays on its drive.
+TEST_F(DataFolderTest, AStoreBehindALinkComesBackWhereItLay) {
+  QDir().mkpath(At("drive"));
+  const QString real = MakePersons("drive/RECOS.Dat");
+  const QString path = At("RECOS.Dat");
+  ASSERT_TRUE(QFile::link(real, path));
+  StoreKeeper::OpenUserStore(path);
+  const QByteArray sound = ReadWholeFile(real);
+  WriteWholeFile(real, sound.first(5000));
+  EXPECT_EQ(StoreKeeper::RestoreCopy(path), real + ".damaged");
+  EXPECT_TRUE(QFileInfo(path).isSymbolicLink());
+  EXPECT_EQ(ReadWholeFile(real), sound);
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "StoreFixture.h"
 
+#include "platform/Notices.h"
 #include "platform/UserSettings.h"
 #include "platform/clsIni.h"
 
@@ -107,7 +108,51 @@ TEST_F(SettingsTest, AnIniIsMadeWithItsFolderAndAFileInTheWayIsTold) {
   QString sentence;
   Refusal([&] { clsIni(AppPaths(At("blocked"))).WriteIniString("A", "1"); }, &sentence);
   EXPECT_TRUE(sentence.contains("GENDAT.INI"));
-  EXPECT_THROW(clsIni(AppPaths(At("blocked"))).GetIniString("A", ""), StoreError);
+  const NoticeRecorder notices;
+  EXPECT_EQ(clsIni(AppPaths(At("blocked"))).GetIniString("A", "usual"), "usual");
+  EXPECT_EQ(clsIni(AppPaths(At("blocked"))).GetIniString("B", "usual"), "usual");
+  ASSERT_EQ(notices.Seen().size(), 1U) << "one word for all that is asked of it";
+  EXPECT_TRUE(notices.Seen()[0].text.contains("GENDAT.INI")) << notices.Seen()[0].text;
+}
+
+TEST_F(SettingsTest, AGarbledIniIsToldAndSetAsideByTheFirstWrite) {
+  for (const QByteArray &garbage : {QByteArray("\x01\x02\x00\x03=\x04\n", 7), QByteArray("words of no meaning\nand more\n")}) {
+    const AppPaths paths(At("garbled"));
+    WriteWholeFile(paths.IniPath(), garbage);
+    const NoticeRecorder notices;
+    EXPECT_EQ(clsIni(paths).GetIniString("SelLang", "English"), "English");
+    ASSERT_EQ(notices.Seen().size(), 1U);
+    EXPECT_TRUE(notices.Seen()[0].text.contains(paths.IniPath())) << notices.Seen()[0].text;
+    clsIni(paths).WriteIniString("SelLang", "0");
+    EXPECT_EQ(clsIni(paths).GetIniString("SelLang", ""), "0");
+    EXPECT_EQ(ReadWholeFile(paths.IniPath() + ".damaged"), garbage);
+    EXPECT_EQ(notices.Seen().size(), 2U) << "where it lies now is told";
+    QDir(At("garbled")).removeRecursively();
+  }
+}
+
+// Each of two windows holds what it has read; a write of one must not carry the other's old values back.
+TEST_F(SettingsTest, TwoWindowsKeepEachOthersSettings) {
+  const QString path = At("orvani.conf");
+  FileUserSettings one(path), other(path);
+  one.SetValue("Init", "AyanType", "3");
+  other.SetValue("init", "RAHUKETUMODE", "2");
+  one.SetValue("Settings", "DoneSetup", "True");
+  EXPECT_EQ(one.IntValue(SettingKeys::RahuKetuMode), 1) << "values stand still until they are asked for anew";
+  EXPECT_TRUE(one.Refresh());
+  EXPECT_FALSE(one.Refresh());
+  EXPECT_EQ(one.IntValue(SettingKeys::RahuKetuMode), 2);
+  other.Refresh();
+  EXPECT_EQ(other.IntValue(SettingKeys::AyanType), 3);
+  one.SetIntValue(SettingKeys::RahuKetuMode, 1);
+  EXPECT_EQ(ReadWholeFile(path).toLower().count("rahuketumode"), 1) << "one entry in one spelling";
+
+  const clsIni ini((AppPaths(At(""))));
+  const clsIni same((AppPaths(At(""))));
+  ini.WriteIniString("LastPerson", "Mira");
+  same.WriteIniString("SelLang", "0");
+  ini.WriteIniString("DispName", "Arun");
+  EXPECT_EQ(same.GetIniString("LastPerson", "") + same.GetIniString("SelLang", "") + same.GetIniString("DispName", ""), "Mira0Arun");
 }
 
 }  // namespace

@@ -64,6 +64,46 @@ TEST_F(StoreTest, EachWayOfFailingToOpenHasItsOwnSentenceAndHarmsNothing) {
   EXPECT_FALSE(QFileInfo::exists(At("absent"))) << "opening must not make a store";
 }
 
+TEST_F(StoreTest, ALinkIntoNothingNamesWhereItLeads) {
+  ASSERT_TRUE(QFile::link(At("drive/persons"), At("linked")));
+  QString sentence;
+  EXPECT_EQ(Refusal([&] { Database::OpenDatabase(At("linked")); }, &sentence), Kind::Missing);
+  EXPECT_TRUE(sentence.contains(At("linked")) && sentence.contains(At("drive/persons"))) << sentence;
+}
+
+TEST_F(StoreTest, AReaderUndoesTheSaveThatAKilledProgramLeft) {
+  const QString path = MakePersons();
+  const QByteArray before = ReadWholeFile(path);
+  // The pages and the journal of a save as they lie on the disk in the middle of it.
+  QByteArray middle, journal;
+  RunOutside(path,
+             {"PRAGMA synchronous = OFF", "PRAGMA cache_size = 1", "PRAGMA cache_spill = 1", "BEGIN",
+              "UPDATE Person SET Name = 'half done', Day = 99",
+              "CREATE TABLE Filler AS WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 9000) SELECT i FROM n"},
+             [&] {
+               middle = ReadWholeFile(path);
+               journal = ReadWholeFile(path + "-journal");
+             });
+  ASSERT_TRUE(middle != before && !journal.isEmpty());
+  WriteWholeFile(path, middle);
+  WriteWholeFile(path + "-journal", journal);
+  const auto database = Database::OpenDatabase(path, Database::Mode::ReadOnly);
+  EXPECT_EQ(database->OpenRecordset("SELECT * FROM Person WHERE Day = 99").RecordCount(), 0);
+  EXPECT_EQ(database->OpenRecordset("Person").RecordCount(), 3);
+  EXPECT_FALSE(QFileInfo::exists(path + "-journal"));
+}
+
+TEST_F(StoreTest, AStoreThatWasReplacedUnderAnOpenWindowTakesNoWriteAndLosesNone) {
+  const QString path = MakePersons();
+  const auto database = Database::OpenDatabase(path);
+  database->Execute("UPDATE Person SET Day = 4 WHERE Name = 'Mira'");
+  ASSERT_TRUE(QFile::rename(path, At("moved")));
+  ASSERT_TRUE(QFile::copy(At("moved"), path));
+  QString sentence;
+  Refusal([&] { database->Execute("UPDATE Person SET Day = 5 WHERE Name = 'Mira'"); }, &sentence);
+  EXPECT_TRUE(sentence.contains("replaced")) << sentence;
+}
+
 TEST_F(StoreTest, AFileWithoutRightsIsReadOnlyOrUnreadable) {
   if (geteuid() == 0) {
     GTEST_SKIP() << "root may read and write every file";
