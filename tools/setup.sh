@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 Brivanta Works
 # SPDX-License-Identifier: AGPL-3.0-or-later
-# Sourced by run and test: installs what is missing, configures once, builds.
+# Sourced by run, test and the scripts of tools: installs what is missing, configures once, builds.
 
 build_dir=build/release
 
@@ -11,6 +11,8 @@ run_packages=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libqt6sql6-sqlite l
 test_packages=(libgtest-dev libbenchmark-dev xvfb xauth hunspell hunspell-en-us poppler-utils)
 # What fuzzing needs beside them.
 fuzz_packages=(clang libclang-rt-dev)
+# What making and trying out the packages needs.
+package_packages=(dpkg-dev lintian desktop-file-utils appstream man-db mmdebstrap xvfb xdotool imagemagick)
 
 # Installs those of the named packages that are missing, as root or with sudo.
 need_packages() {
@@ -36,7 +38,8 @@ need_packages() {
   rm -f "$log"
 }
 
-# Configures the build folder once, and again when an option (NAME=VALUE) is not what it was configured with.
+# Configures the build folder, which bears the name of its preset, once, and again when an option (NAME=VALUE) is not what it was
+# configured with.
 configure() {
   local option fresh=yes definitions=()
   [ -f "$build_dir/build.ninja" ] || fresh=
@@ -46,7 +49,7 @@ configure() {
   done
   [ -n "$fresh" ] && return 0
   echo "Configuring $build_dir"
-  cmake --preset release "${definitions[@]}" >"$build_dir.log" 2>&1 || { cat "$build_dir.log" >&2; exit 1; }
+  cmake --preset "${build_dir##*/}" "${definitions[@]}" >"$build_dir.log" 2>&1 || { cat "$build_dir.log" >&2; exit 1; }
 }
 
 # Builds the named targets; says so only when it takes longer than a look.

@@ -9,6 +9,7 @@
 
 #include "Version.h"
 #include "app/DailyRun.h"
+#include "engine/Ephemeris.h"
 
 namespace {
 
@@ -29,5 +30,6 @@ int main(int argc, char **argv) {
   const auto app = MakeApplication(argc, argv);
   QCoreApplication::setApplicationName(QStringLiteral("orvani"));
   QCoreApplication::setApplicationVersion(QStringLiteral(ORVANI_VERSION));
+  Ephemeris::UseFilesBeside(QCoreApplication::applicationDirPath());
   return RunDaily(app->arguments());
 }

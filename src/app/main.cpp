@@ -5,7 +5,10 @@
 #include <QCommandLineParser>
 #include <QIcon>
 #include <QMessageBox>
+#include <algorithm>
 #include <cstdio>
+#include <initializer_list>
+#include <string_view>
 
 #include "Version.h"
 #include "app/Maker.h"
@@ -17,6 +20,7 @@
 #include "content/Skin.h"
 #include "content/Theme.h"
 #include "content/frmSettings.h"
+#include "engine/Ephemeris.h"
 #include "platform/Errors.h"
 
 namespace {
@@ -38,9 +42,29 @@ class Application : public QApplication {
   }
 };
 
+bool IsGiven(int argc, char **argv, std::initializer_list<std::string_view> options) {
+  return std::any_of(argv + 1, argv + argc, [&](std::string_view argument) {
+    return std::find(options.begin(), options.end(), argument.substr(0, argument.find('='))) != options.end();
+  });
+}
+
+// Without a display Qt would end the program by a fault. Help, version and pictures need none. Gives false when there is no way on.
+bool FindDisplay(int argc, char **argv) {
+  const bool needsWindow = !IsGiven(argc, argv, {"-h", "--help", "--help-all", "-v", "--version"});
+  const bool hasDisplay = !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+  if (IsGiven(argc, argv, {"-platform", "--platform"}) || !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") || (needsWindow && hasDisplay))
+    return true;
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  return !needsWindow || IsGiven(argc, argv, {"--screens"});
+}
+
 }  // namespace
 
 int main(int argc, char **argv) {
+  if (!FindDisplay(argc, argv)) {
+    std::fputs("orvani: there is no display here; orvani-daily prints the day in a terminal.\n", stderr);
+    return 1;
+  }
   Application app(argc, argv);
   QApplication::setApplicationName(QStringLiteral("orvani"));
   QApplication::setApplicationDisplayName(Maker::Title);
@@ -59,6 +83,7 @@ int main(int argc, char **argv) {
   parser.process(app);
 
   try {
+    Ephemeris::UseFilesBeside(QApplication::applicationDirPath());
     const AppPaths paths = AppPaths::Locate(parser.value(appDir));
     Theme::Apply(app, paths.Ephe(QStringLiteral("SKIN/ctlDown.svg")));
     Skin::SetFolder(paths.Ephe(QStringLiteral("SKIN")));

@@ -4,6 +4,9 @@
 
 #include <swephexp.h>
 
+#include <QFile>
+#include <QFileInfo>
+
 namespace Ephemeris {
 namespace {
 
@@ -75,6 +78,11 @@ double TrueAltitude(double universalDay, Body body, const Observer &observer) {
   swe_calc_ut(universalDay, static_cast<int>(body), SEFLG_SWIEPH | SEFLG_EQUATORIAL, position.data(), message.data());
   swe_azalt(universalDay, SE_EQU2HOR, place.data(), 0, 0, position.data(), horizontal.data());
   return horizontal[1];
+}
+
+void UseFilesBeside(const QString &programDir) {
+  const QString files = programDir + QStringLiteral("/share/libswe/ephe");
+  if (QFileInfo(files).isDir() && qEnvironmentVariableIsEmpty("SE_EPHE_PATH")) qputenv("SE_EPHE_PATH", QFile::encodeName(files));
 }
 
 QString Source() {

@@ -69,6 +69,10 @@ std::optional<double> NextCrossing(double universalDay, Body body, Crossing cros
 // Degrees of the body's centre above the true horizon, negative below it.
 double TrueAltitude(double universalDay, Body body, const Observer &observer);
 
+// Lets the library read its data files in share/libswe/ephe of the program's folder, where a portable copy has them. To be called
+// before the first position. A folder that the user names in the environment variable SE_EPHE_PATH goes before it.
+void UseFilesBeside(const QString &programDir);
+
 // Which ephemeris answered the last position: "Swiss Ephemeris files", "Moshier (built in)" or "JPL file";
 // empty before the first.
 QString Source();

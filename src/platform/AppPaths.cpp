@@ -39,6 +39,21 @@ bool CanWrite(const QString &appDir) {
 
 AppPaths Of(const QString &appDir) { return AppPaths(QDir::cleanPath(QDir(appDir).absolutePath())); }
 
+// The user's folder, filled or brought up to date from `source`; see Locate for a reader.
+AppPaths FilledFrom(const QString &source, const QString &userDir, AppPaths::Access access) {
+  const AppPaths user = Of(userDir);
+  try {
+    DataSeed::BringUpToDate(EpheOf(source), user);
+  } catch (const StoreError &) {
+    if (access == AppPaths::Access::Write || !QFileInfo(EpheOf(source)).isReadable()) {
+      throw;
+    }
+    // The version is written last, so a folder that has one is whole, and its persons are the user's.
+    return QFileInfo::exists(user.Ephe(DataSeed::kVersionFile)) ? user : Of(source);
+  }
+  return user;
+}
+
 }  // namespace
 
 AppPaths::Candidates AppPaths::Candidates::OfThisMachine(const QString &explicitAppDir) {
@@ -69,25 +84,19 @@ AppPaths AppPaths::Locate(const Candidates &candidates, Access access) {
     }
     return Of(candidates.explicitAppDir);
   }
-  if (HoldsEphe(candidates.programDir) && CanWrite(candidates.programDir)) {
-    return Of(candidates.programDir);
+  // A portable copy carries its data as they were packed, apart from the EPHE that is worked in: unpacking a newer copy over it
+  // renews the ones and leaves the other to the user.
+  const QString packed = candidates.programDir + QStringLiteral("/share/orvani");
+  if (HoldsEphe(candidates.programDir) ? CanWrite(candidates.programDir)
+                                       : HoldsEphe(packed) && QFileInfo(candidates.programDir).isWritable()) {
+    return HoldsEphe(packed) ? FilledFrom(packed, candidates.programDir, access) : Of(candidates.programDir);
   }
 
   // A program folder that cannot be written, such as a mounted image, still serves as a source.
-  const QStringList sources = QStringList{candidates.programDir} + candidates.installedDirs;
+  const QStringList sources = QStringList{candidates.programDir, packed} + candidates.installedDirs;
   for (const QString &source : sources) {
     if (HoldsEphe(source)) {
-      const AppPaths user = Of(candidates.userDataDir);
-      try {
-        DataSeed::BringUpToDate(EpheOf(source), user);
-      } catch (const StoreError &) {
-        if (access == Access::Write || !QFileInfo(EpheOf(source)).isReadable()) {
-          throw;
-        }
-        // The version is written last, so a folder that has one is whole, and its persons are the user's.
-        return QFileInfo::exists(user.Ephe(DataSeed::kVersionFile)) ? user : Of(source);
-      }
-      return user;
+      return FilledFrom(source, candidates.userDataDir, access);
     }
   }
   if (HoldsEphe(candidates.userDataDir)) {

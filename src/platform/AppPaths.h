@@ -25,8 +25,9 @@ class AppPaths {
   /// What the caller wants of the folder.
   enum class Access { Write, Read };
 
-  /// Chooses the application folder: the one given; else the program's when its EPHE can be written (a portable copy, a build tree);
-  /// else the user's data folder, filled or brought up to date from the installed data. User's own files there are never overwritten.
+  /// Chooses the application folder: the one given; else the program's when its EPHE can be written (a build tree), or can be made and
+  /// brought up to date from the share/orvani beside the program (a portable copy); else the user's data folder, filled or brought up
+  /// to date from the installed data. User's own files there are never overwritten.
   /// Where the data cannot be copied, a reader takes the user's folder as it stands when it was filled once, else the installed data.
   /// @throws MissingFileError when there are no data files, StoreError when they cannot be copied and are to be written
   static AppPaths Locate(const QString &explicitAppDir = QString(), Access access = Access::Write);

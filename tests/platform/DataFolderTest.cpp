@@ -103,6 +103,34 @@ TEST_F(DataFolderTest, AnUpgradeRenewsTextsAndNeverTheUsersOwn) {
   EXPECT_FALSE(QFileInfo::exists(At("drive/RECOS.Dat")));
 }
 
+// Unpacked anywhere, it works in an EPHE beside the program; unpacked anew over that, it renews the texts alone.
+TEST_F(DataFolderTest, APortableCopyKeepsItsOwnFolder) {
+  const auto unpack = [&](const QByteArray &version) {
+    Install(version);
+    QDir().mkpath(At("copy/share"));
+    QDir(At("copy/share/orvani")).removeRecursively();
+    QDir().rename(At("share"), At("copy/share/orvani"));
+  };
+  AppPaths::Candidates copy{QString(), At("copy"), At("home/orvani"), {At("nowhere")}};
+  unpack("1");
+  const AppPaths paths = AppPaths::Locate(copy);
+  EXPECT_EQ(paths.AppDir(), At("copy"));
+  EXPECT_EQ(ReadWholeFile(paths.RecosPath()), "1");
+  WriteWholeFile(paths.RecosPath(), "my persons");
+
+  unpack("2");
+  EXPECT_EQ(AppPaths::Locate(copy).AppDir(), At("copy"));
+  EXPECT_EQ(ReadWholeFile(paths.RecosPath()), "my persons");
+  EXPECT_EQ(ReadWholeFile(paths.LangsPath()), "2");
+  EXPECT_FALSE(QFileInfo::exists(At("home/orvani")));
+
+  // The folder of the program cannot be written: something is in the way of its EPHE.
+  QDir(At("copy/EPHE")).removeRecursively();
+  WriteWholeFile(At("copy/EPHE"), "in the way");
+  EXPECT_THROW(AppPaths::Locate(copy), StoreError);
+  EXPECT_EQ(AppPaths::Locate(copy, AppPaths::Access::Read).AppDir(), At("copy/share/orvani")) << "a reader takes the data as packed";
+}
+
 TEST_F(DataFolderTest, AMissingDataFileIsNamedInTheFixedWords) {
   const AppPaths paths(At("app"));
   const QStringList files{"CONYEAR.DAT", "SADESAT.Dat", "SCGRAHA.DAT", "SCRASI.DAT", "SCYONI.DAT", "LANGS.Dat", "WAIT.AVI"};

@@ -11,6 +11,7 @@
 
 #include <QCryptographicHash>
 #include <QDir>
+#include <QDirIterator>
 #include <QFileInfo>
 #include <QSet>
 
@@ -129,6 +130,15 @@ QStringList TextFilesIn(const QString &folder) {
   return names;
 }
 
+/// Every file below a folder, in a fixed order.
+QStringList AllFilesIn(const QString &folder) {
+  QStringList paths;
+  QDirIterator files(folder, QDir::Files, QDirIterator::Subdirectories);
+  while (files.hasNext()) paths << files.next();
+  std::sort(paths.begin(), paths.end());
+  return paths;
+}
+
 Language ReadLanguage(const QString &sourceDir, const QVariantList &row) {
   Language language;
   language.row = row;
@@ -223,7 +233,7 @@ void CheckCountries(const QString &citiesPath, const TableSource &cities, const 
 
 }  // namespace
 
-void DataTree::Make(const QString &sourceDir, const QString &epheDir) {
+void DataTree::Make(const QString &sourceDir, const QString &epheDir, const QString &version) {
   if (!QFileInfo(sourceDir).isDir()) throw SourceError(sourceDir, 0, "there is no such folder");
   const QString common = sourceDir + "/common/";
   const QString languagesPath = common + "languages.txt";
@@ -289,8 +299,7 @@ void DataTree::Make(const QString &sourceDir, const QString &epheDir) {
     FileWriter::Write(epheDir + "/COMMON/" + name, "This file only has to be present; nothing is read from it.\n");
   FileWriter::Write(epheDir + "/COMMON/WAIT.AVI", WaitAnimation::Avi());
 
-  // Written last: a tree with this mark is a whole one.
-  const QByteArray seed =
-      QCryptographicHash::hash((allHashes + listHash + personHash + placesHash + residenceHash).toLatin1(), QCryptographicHash::Sha256);
-  FileWriter::Write(epheDir + "/SEED", QByteArray(kDataVersion) + " " + seed.toHex() + "\n");
+  // Written last: a tree with this mark is a whole one. It tells every source apart, the drawings and the help too, and the release,
+  // since the tools that draw from them belong to it.
+  FileWriter::Write(epheDir + "/SEED", version.toUtf8() + " " + HashOf(AllFilesIn(sourceDir)).toUtf8() + "\n");
 }

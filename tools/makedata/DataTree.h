@@ -11,5 +11,6 @@
 class DataTree {
  public:
   /// @throws SourceError for the first fault of the sources, before anything is written, or for a file that cannot be written
-  static void Make(const QString &sourceDir, const QString &epheDir);
+  /// `version` is that of the program, for the tree's mark.
+  static void Make(const QString &sourceDir, const QString &epheDir, const QString &version);
 };
