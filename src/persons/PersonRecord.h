@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #pragma once
 
+#include <QMap>
 #include <QString>
+#include <QVariant>
 #include <optional>
 
 // A place on the earth with its clock, as the stores of persons and of residences keep it.
@@ -26,8 +28,12 @@ struct PersonRecord {
   int AMPM = 1;                            // 1 before noon, 2 from noon
   PersonPlace birth;
   std::optional<PersonPlace> residence;
-  QString TCorrVal;   // decimal hours as "+00.00"; empty where the store holds none
-  int Tcorrinde = 0;  // which correction was offered
+  QString TCorrVal;              // decimal hours as "+00.00"; empty where the store holds none
+  std::optional<int> Tcorrinde;  // which correction was offered, where the store holds it
+
+  // What the fields above cannot carry of a row that another program wrote: by column, that of a residence with "Res" before it, a Null,
+  // a word where a number belongs, blanks around the name. Empty for what this program wrote.
+  QMap<QString, QVariant> odd;
 
   bool operator==(const PersonRecord &) const = default;
 };

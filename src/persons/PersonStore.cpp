@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "persons/PersonStore.h"
 
-#include <QHash>
 #include <QSqlQuery>
 #include <algorithm>
+#include <utility>
 
 #include "platform/Errors.h"
 
@@ -12,10 +12,79 @@ namespace {
 
 const QString ByName = QStringLiteral(" ORDER BY Name, rowid");
 
+const QString OfResidence = QStringLiteral("Res");
+
 QString Text(const Recordset &row, const char *column) { return row.Field(QLatin1String(column)).toString(); }
 int Whole(const Recordset &row, const char *column) { return row.Field(QLatin1String(column)).toInt(); }
 
+using Values = std::vector<std::pair<QString, QVariant>>;  // by column
+
+void AddPlace(Values &values, const PersonPlace &place) {
+  const auto add = [&](const char *column, const QVariant &value) { values.emplace_back(QLatin1String(column), value); };
+  add("Country", place.Country);
+  add("City", place.City);
+  add("GMTDIFF", place.GMTDIFF);
+  add("LatDeg", place.LatDeg);
+  add("LatMT", place.LatMT);
+  add("TextNS", place.TextNS);
+  add("LongDeg", place.LongDeg);
+  add("LongMT", place.LongMT);
+  add("TextEW", place.TextEW);
+}
+
+Values PersonValues(const PersonRecord &record) {
+  Values values;
+  const auto add = [&](const char *column, const QVariant &value) { values.emplace_back(QLatin1String(column), value); };
+  add("Name", record.Name.trimmed());
+  add("Sex", record.Sex);
+  add("Day", record.Day);
+  add("Month", record.Month);
+  add("Year", record.Year);
+  add("Hour", record.Hour);
+  add("Minutes", record.Minutes);
+  add("seconds", record.seconds);
+  add("AMPM", record.AMPM);
+  AddPlace(values, record.birth);
+  add("TCorrVal", record.TCorrVal.isEmpty() ? QVariant() : QVariant(record.TCorrVal));
+  add("Tcorrinde", record.Tcorrinde ? QVariant(*record.Tcorrinde) : QVariant());
+  return values;
+}
+
+Values ResidenceValues(const PersonPlace &place, const QVariant &name) {
+  Values values{{QStringLiteral("Name"), name}};
+  AddPlace(values, place);
+  return values;
+}
+
+bool IsSame(const QVariant &stored, const QVariant &value) {
+  if (stored.isNull() || value.isNull()) return stored.isNull() && value.isNull();
+  if (value.typeId() == QMetaType::Int) return stored.typeId() == QMetaType::LongLong && stored.toLongLong() == value.toLongLong();
+  return stored.typeId() == value.typeId() && stored == value;
+}
+
+QVariant OrNull(const QVariant &stored) { return stored.isNull() ? QVariant() : stored; }
+
+void KeepOdd(PersonRecord &record, const Recordset &row, const Values &values, const QString &prefix) {
+  for (const auto &[column, value] : values) {
+    const QVariant stored = row.Field(column);
+    if (!IsSame(stored, value)) record.odd.insert(prefix + column, OrNull(stored));
+  }
+}
+
+QVariant StoredName(const PersonRecord &record) { return record.odd.value(QStringLiteral("Name"), record.Name.trimmed()); }
+
+// Names that the store takes for one have one key: it folds the letters A to Z, and no others.
+QString KeyOf(const QVariant &name) {
+  if (name.isNull()) return {};
+  QString key = name.toString();
+  for (QChar &letter : key)
+    if (letter >= u'A' && letter <= u'Z') letter = QChar(letter.unicode() + (u'a' - u'A'));
+  return u'=' + key;
+}
+
 }  // namespace
+
+bool PersonStore::IsSameName(const QString &one, const QString &other) { return KeyOf(one.trimmed()) == KeyOf(other.trimmed()); }
 
 PersonStore::PersonStore(std::shared_ptr<Database> personDb, const QString &dailyPath) : db(std::move(personDb)) {
   static int attached = 0;
@@ -58,8 +127,15 @@ PersonRecord PersonStore::Read(const Recordset &row) const {
   record.AMPM = Whole(row, "AMPM");
   record.birth = ReadPlace(row);
   record.TCorrVal = Text(row, "TCorrVal");
-  record.Tcorrinde = Whole(row, "Tcorrinde");
+  if (!row.Field(QStringLiteral("Tcorrinde")).isNull()) record.Tcorrinde = Whole(row, "Tcorrinde");
+  KeepOdd(record, row, PersonValues(record), QString());
+  if (record.Name.trimmed().isEmpty()) record.odd.insert(QStringLiteral("Name"), OrNull(row.Field(QStringLiteral("Name"))));
   return record;
+}
+
+void PersonStore::ReadResidence(PersonRecord &record, const Recordset &row) {
+  record.residence = ReadPlace(row);
+  KeepOdd(record, row, ResidenceValues(*record.residence, StoredName(record)), OfResidence);
 }
 
 std::optional<PersonRecord> PersonStore::At(int position) const {
@@ -70,7 +146,7 @@ std::optional<PersonRecord> PersonStore::At(int position) const {
   PersonRecord record = Read(person);
   const Recordset place =
       db->OpenRecordset(QStringLiteral("SELECT * FROM ") + Residences() + QStringLiteral(" WHERE Name = ?"), {record.Name});
-  if (!place.IsEmpty()) record.residence = ReadPlace(place);
+  if (!place.IsEmpty()) ReadResidence(record, place);
   return record;
 }
 
@@ -80,7 +156,7 @@ std::optional<PersonRecord> PersonStore::Find(const QString &name) const {
   PersonRecord record = Read(person);
   const Recordset place =
       db->OpenRecordset(QStringLiteral("SELECT * FROM ") + Residences() + QStringLiteral(" WHERE Name = ?"), {record.Name});
-  if (!place.IsEmpty()) record.residence = ReadPlace(place);
+  if (!place.IsEmpty()) ReadResidence(record, place);
   return record;
 }
 
@@ -89,83 +165,69 @@ bool PersonStore::Has(const QString &name) const {
 }
 
 std::vector<PersonRecord> PersonStore::All() const {
-  QHash<QString, QList<PersonPlace>> places;  // by lower-case name, in their order
   Recordset residence = db->OpenRecordset(QStringLiteral("SELECT * FROM ") + Residences() + QStringLiteral(" ORDER BY rowid"));
-  for (; !residence.AtEnd(); residence.MoveNext()) places[Text(residence, "Name").toLower()] << ReadPlace(residence);
+  QHash<QString, QList<int>> rowsOfName;
+  for (int row = 0; row < residence.RecordCount(); ++row, residence.MoveNext())
+    rowsOfName[KeyOf(residence.Field(QStringLiteral("Name")))] << row;
 
   std::vector<PersonRecord> all;
   Recordset person = db->OpenRecordset(QStringLiteral("SELECT * FROM main.Person") + ByName);
   all.reserve(static_cast<std::size_t>(person.RecordCount()));
   for (; !person.AtEnd(); person.MoveNext()) {
     PersonRecord record = Read(person);
-    const auto found = places.find(record.Name.toLower());
-    if (found != places.end() && !found->isEmpty()) record.residence = found->takeFirst();
+    const auto found = rowsOfName.find(KeyOf(person.Field(QStringLiteral("Name"))));
+    if (found != rowsOfName.end() && !found->isEmpty()) {
+      residence.MoveFirst();
+      residence.Move(found->takeFirst());
+      ReadResidence(record, residence);
+    }
     all.push_back(std::move(record));
   }
   return all;
 }
 
-void PersonStore::WritePlace(Recordset &row, const PersonPlace &place) {
-  const auto set = [&](const char *column, const QVariant &value) { row.SetField(QLatin1String(column), value); };
-  set("Country", place.Country);
-  set("City", place.City);
-  set("GMTDIFF", place.GMTDIFF);
-  set("LatDeg", place.LatDeg);
-  set("LatMT", place.LatMT);
-  set("TextNS", place.TextNS);
-  set("LongDeg", place.LongDeg);
-  set("LongMT", place.LongMT);
-  set("TextEW", place.TextEW);
+// Opens the row for it: the one of the name that stands at `position` among those of that name, a new one where there are fewer.
+bool PersonStore::Open(Recordset &ofName, int position) {
+  const bool isNew = ofName.RecordCount() <= position;
+  if (isNew) {
+    ofName.AddNew();
+  } else {
+    ofName.Move(position);
+    ofName.Edit();
+  }
+  return isNew;
 }
 
-PersonStore::Outcome PersonStore::Write(const PersonRecord &record, Extent extent, int occurrence) {
-  const QString name = record.Name.trimmed();
-  if (name.isEmpty()) throw UsageError(QStringLiteral("Please enter a name."));
+PersonStore::Outcome PersonStore::Write(const PersonRecord &record, Extent extent, Seen &seen) {
+  const bool isWhole = extent == Extent::Whole;
+  const QVariant name = isWhole ? StoredName(record) : QVariant(record.Name.trimmed());
+  if (name.toString().trimmed().isEmpty() && !(isWhole && record.odd.contains(QStringLiteral("Name"))))
+    throw UsageError(QStringLiteral("Please enter a name."));
+  const auto oddOr = [&](const QString &column, const QVariant &value) { return isWhole ? record.odd.value(column, value) : value; };
 
-  Recordset person = db->OpenRecordset(QStringLiteral("SELECT * FROM main.Person WHERE Name = ? ORDER BY rowid"), {name});
-  const bool isNew = person.RecordCount() <= occurrence;
-  if (isNew) {
-    person.AddNew();
-  } else {
-    person.Move(occurrence);
-    person.Edit();
-  }
-  const auto set = [&](const char *column, const QVariant &value) { person.SetField(QLatin1String(column), value); };
-  set("Name", name);
-  set("Day", record.Day);
-  set("Month", record.Month);
-  set("Year", record.Year);
-  set("Hour", record.Hour);
-  set("Minutes", record.Minutes);
-  set("seconds", record.seconds);
-  set("AMPM", record.AMPM);
-  WritePlace(person, record.birth);
-  if (isNew || extent == Extent::Whole) set("Sex", record.Sex);
-  if (extent == Extent::Whole) {
-    set("TCorrVal", record.TCorrVal.isEmpty() ? QVariant() : QVariant(record.TCorrVal));
-    set("Tcorrinde", record.Tcorrinde);
+  const QString ofName = QStringLiteral(" WHERE Name IS ? ORDER BY rowid");
+  Recordset person = db->OpenRecordset(QStringLiteral("SELECT * FROM main.Person") + ofName, {name});
+  const bool isNew = Open(person, seen.persons[KeyOf(name)]++);
+  for (const auto &[column, value] : PersonValues(record)) {
+    const bool isOfTheWhole = column == QLatin1String("TCorrVal") || column == QLatin1String("Tcorrinde");
+    if (isWhole || (!isOfTheWhole && (isNew || column != QLatin1String("Sex")))) person.SetField(column, oddOr(column, value));
   }
   person.Update();
 
   if (record.residence) {
-    Recordset place =
-        db->OpenRecordset(QStringLiteral("SELECT * FROM ") + Residences() + QStringLiteral(" WHERE Name = ? ORDER BY rowid"), {name});
-    if (place.RecordCount() <= occurrence) {
-      place.AddNew();
-    } else {
-      place.Move(occurrence);
-      place.Edit();
-    }
-    place.SetField(QStringLiteral("Name"), name);
-    WritePlace(place, *record.residence);
+    const QVariant nameOfResidence = oddOr(OfResidence + QStringLiteral("Name"), name);
+    Recordset place = db->OpenRecordset(QStringLiteral("SELECT * FROM ") + Residences() + ofName, {nameOfResidence});
+    Open(place, seen.residences[KeyOf(nameOfResidence)]++);
+    for (const auto &[column, value] : ResidenceValues(*record.residence, name)) place.SetField(column, oddOr(OfResidence + column, value));
     place.Update();
   }
   return isNew ? Outcome::Added : Outcome::Changed;
 }
 
 PersonStore::Outcome PersonStore::Save(const PersonRecord &record) {
+  Seen seen;
   Transaction transaction(*db);
-  const Outcome outcome = Write(record, Extent::Screen, 0);
+  const Outcome outcome = Write(record, Extent::Screen, seen);
   transaction.Commit();
   return outcome;
 }
@@ -187,19 +249,17 @@ std::optional<PersonStore::Outcome> PersonStore::SaveOver(const PersonRecord &re
   const std::vector<PersonRecord> stored = AllOf(record.Name.trimmed());
   const bool isAsSeen = seen ? std::find(stored.begin(), stored.end(), *seen) != stored.end() : stored.empty();
   if (!isAsSeen) return std::nullopt;
-  const Outcome outcome = Write(record, Extent::Screen, 0);
+  Seen first;
+  const Outcome outcome = Write(record, Extent::Screen, first);
   transaction.Commit();
   return outcome;
 }
 
 PersonStore::Tally PersonStore::SaveAll(const std::vector<PersonRecord> &records) {
   Tally tally;
-  QHash<QString, int> seen;
+  Seen seen;
   Transaction transaction(*db);
-  for (const PersonRecord &record : records) {
-    const int occurrence = seen[record.Name.trimmed().toLower()]++;
-    ++(Write(record, Extent::Whole, occurrence) == Outcome::Added ? tally.added : tally.changed);
-  }
+  for (const PersonRecord &record : records) ++(Write(record, Extent::Whole, seen) == Outcome::Added ? tally.added : tally.changed);
   transaction.Commit();
   return tally;
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #pragma once
 
+#include <QHash>
 #include <QStringList>
 #include <memory>
 #include <utility>
@@ -28,6 +29,10 @@ class PersonStore {
   std::optional<PersonRecord> At(int position) const;
   std::optional<PersonRecord> Find(const QString &name) const;  // the first of that name
   bool Has(const QString &name) const;
+  // Whether the store takes two names for one: A to Z fold, other letters do not, and blanks around a name do not count.
+  static bool IsSameName(const QString &one, const QString &other);
+  // Whole rows, by name. A residence knows its person by the name alone: of several persons of one name, the first has the first
+  // residence of that name.
   std::vector<PersonRecord> All() const;
 
   // Whether the name was new. What is kept from the stored person on an edit: sex and time correction.
@@ -42,8 +47,8 @@ class PersonStore {
   struct Tally {
     int added = 0, changed = 0;
   };
-  // Writes whole records, sex and time correction too; all of them or, on a fault, none. The second person of one name among the
-  // records is the second of that name in the store.
+  // Writes whole records, sex, time correction and odd values too; all of them or, on a fault, none. The second person of one name
+  // among the records is the second of that name in the store, and so is the second residence.
   Tally SaveAll(const std::vector<PersonRecord> &records);
 
   // A person's rows as they lay in both files, to be put back.
@@ -69,9 +74,14 @@ class PersonStore {
   PersonRecord Read(const Recordset &row) const;
   std::vector<PersonRecord> AllOf(const QString &name) const;
   static PersonPlace ReadPlace(const Recordset &row);
-  static void WritePlace(Recordset &row, const PersonPlace &place);
+  static void ReadResidence(PersonRecord &record, const Recordset &row);
   enum class Extent { Screen, Whole };
-  Outcome Write(const PersonRecord &record, Extent extent, int occurrence);
+  // How many of each name were written.
+  struct Seen {
+    QHash<QString, int> persons, residences;
+  };
+  static bool Open(Recordset &ofName, int position);
+  Outcome Write(const PersonRecord &record, Extent extent, Seen &seen);
 
   std::shared_ptr<Database> db;
   QString schema;

@@ -8,28 +8,37 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <algorithm>
 
 #include "persons/PersonFields.h"
 #include "platform/Errors.h"
 
 namespace {
 
+constexpr int NorthPole = 90;  // degrees
+
 QString tr(const char *text) { return QCoreApplication::translate("PersonsFile", text); }
 
 // One column of the table, or one name of the object: how it is read from a person and written into one.
 struct Field {
   const char *name;
-  QString (*get)(const PersonRecord &);
+  QString (*get)(const PersonRecord &);          // empty for a number that is not held
   bool (*set)(PersonRecord &, const QString &);  // false for a text that is no number where one is needed
   bool isNumber;
 };
 
-bool SetWhole(int &target, const QString &text) {
+template <class Number>
+bool SetWhole(Number &target, const QString &text) {
   bool isWhole = false;
   const int number = text.trimmed().toInt(&isWhole);
   if (isWhole) target = number;
   return isWhole;
 }
+
+QString NoName() { return tr("the name is missing."); }
+
+QString WholeText(int number) { return QString::number(number); }
+QString WholeText(std::optional<int> number) { return number ? QString::number(*number) : QString(); }
 
 #define TEXT_FIELD(label, member)                                                                                                      \
   Field {                                                                                                                              \
@@ -37,7 +46,7 @@ bool SetWhole(int &target, const QString &text) {
   }
 #define WHOLE_FIELD(label, member)                                                    \
   Field {                                                                             \
-    label, [](const PersonRecord &r) { return QString::number(r.member); },           \
+    label, [](const PersonRecord &r) { return WholeText(r.member); },                 \
         [](PersonRecord &r, const QString &t) { return SetWhole(r.member, t); }, true \
   }
 
@@ -76,6 +85,14 @@ const Field ResidenceColumns[] = {
 #undef TEXT_FIELD
 #undef WHOLE_FIELD
 
+// The name under which a residence stands, where it is not the person's own to the letter.
+const QString ResidenceName = QStringLiteral("ResName");
+
+// The column of rows that another program wrote: what the other columns cannot tell of them, as a JSON object, "{}" where they tell all.
+// Such a row comes in again as it lay in the store, however strange it is; any other is looked at.
+const QString AsStored = QStringLiteral("AsStored");
+const QString Bytes = QStringLiteral("bytes");
+
 // Columns that a file made by hand may leave out.
 bool MayLack(const char *name) {
   const QLatin1String column(name);
@@ -85,32 +102,79 @@ bool MayLack(const char *name) {
 
 using Cells = QHash<QString, QString>;  // by lower-case column
 
+QJsonValue OddValue(const QVariant &stored) {
+  if (stored.typeId() != QMetaType::QByteArray) return QJsonValue::fromVariant(stored);
+  return QJsonObject{{Bytes, QString::fromLatin1(stored.toByteArray().toBase64())}};
+}
+
+// Nothing for what no store can hold.
+std::optional<QVariant> OddValue(const QJsonValue &told) {
+  if (told.isNull()) return QVariant();
+  if (told.isObject()) return QByteArray::fromBase64(told.toObject().value(Bytes).toString().toLatin1());
+  return told.isString() || told.isDouble() ? std::optional(told.toVariant()) : std::nullopt;
+}
+
+// Empty for a sound person.
+QByteArray AsStoredText(const PersonRecord &record) {
+  if (record.odd.isEmpty() && PersonsFile::FaultOf(record).isEmpty()) return {};
+  QJsonObject odd;
+  for (auto entry = record.odd.begin(); entry != record.odd.end(); ++entry) odd.insert(entry.key(), OddValue(entry.value()));
+  return QJsonDocument(odd).toJson(QJsonDocument::Compact);
+}
+
 // Gives the person, or the fault's sentence.
 QString Assemble(const Cells &cells, PersonRecord &record) {
+  const QString told = cells.value(AsStored.toLower()).trimmed();
+  const QJsonDocument asStored = QJsonDocument::fromJson(told.toUtf8());
+  if (!told.isEmpty() && !asStored.isObject()) return tr("'%1' is no JSON object (%2).").arg(told, AsStored);
+  const QJsonObject odd = asStored.object();
+  // A cell that was changed since then counts as it stands now.
+  const auto takeOdd = [&](const QString &column, const QString &text) {
+    const auto stored = OddValue(odd.value(column));
+    const bool counts = odd.contains(column) && stored && stored->toString() == text;
+    if (counts) record.odd.insert(column, *stored);
+    return counts;
+  };
   const auto take = [&](const Field &field) {
     const QString text = cells.value(QLatin1String(field.name).toString().toLower());
-    if (text.isEmpty() && MayLack(field.name)) return QString();
+    if (takeOdd(QLatin1String(field.name), text)) {
+      const QVariant stored = record.odd.value(QLatin1String(field.name));
+      field.set(record, field.isNumber ? QString::number(stored.toInt()) : stored.toString());
+      return QString();
+    }
+    if (text.isEmpty() && MayLack(field.name) && (told.isEmpty() || field.isNumber)) return QString();
     return field.set(record, text) ? QString() : tr("'%1' is no whole number (%2).").arg(text, QLatin1String(field.name));
   };
   for (const Field &field : PersonColumns)
     if (QString fault = take(field); !fault.isEmpty()) return fault;
-  bool livesSomewhere = false;
-  for (const Field &field : ResidenceColumns) livesSomewhere |= !cells.value(QLatin1String(field.name).toString().toLower()).isEmpty();
+  bool livesSomewhere = odd.contains(ResidenceName);
+  for (const Field &field : ResidenceColumns)
+    livesSomewhere |= odd.contains(QLatin1String(field.name)) || !cells.value(QLatin1String(field.name).toString().toLower()).isEmpty();
   if (livesSomewhere) {
     record.residence.emplace();
     for (const Field &field : ResidenceColumns)
       if (QString fault = take(field); !fault.isEmpty()) return fault;
+    if (const auto name = OddValue(odd.value(ResidenceName)); name && odd.contains(ResidenceName)) record.odd.insert(ResidenceName, *name);
   }
-  record.Name = record.Name.trimmed();
-  if (cells.value(QStringLiteral("ampm")).isEmpty()) record.AMPM = record.Hour >= 12 ? 2 : 1;
-  return PersonsFile::FaultOf(record);
+  if (!record.odd.contains(QStringLiteral("Name"))) {
+    record.Name = record.Name.trimmed();
+    if (record.Name.isEmpty()) return NoName();
+  }
+  if (cells.value(QStringLiteral("ampm")).isEmpty() && !record.odd.contains(QStringLiteral("AMPM")))
+    record.AMPM = record.Hour >= 12 ? 2 : 1;
+  return told.isEmpty() ? PersonsFile::FaultOf(record) : QString();
+}
+
+QString CellText(const PersonRecord &record, const Field &field) {
+  const auto odd = record.odd.find(QLatin1String(field.name));
+  return odd == record.odd.end() ? field.get(record) : odd->toString();
 }
 
 QString PlaceFault(const PersonPlace &place) {
   const auto isAngle = [](int degrees, int minutes, int most) {
     return degrees >= 0 && minutes >= 0 && minutes < 60 && degrees * 60 + minutes <= most * 60;
   };
-  if (!isAngle(place.LatDeg, place.LatMT, 90)) return tr("there is no latitude %1:%2.").arg(place.LatDeg).arg(place.LatMT);
+  if (!isAngle(place.LatDeg, place.LatMT, 180)) return tr("there is no latitude %1:%2.").arg(place.LatDeg).arg(place.LatMT);
   if (!isAngle(place.LongDeg, place.LongMT, 180)) return tr("there is no longitude %1:%2.").arg(place.LongDeg).arg(place.LongMT);
   if (place.TextNS != QLatin1String("N") && place.TextNS != QLatin1String("S")) return tr("'%1' is neither N nor S.").arg(place.TextNS);
   if (place.TextEW != QLatin1String("E") && place.TextEW != QLatin1String("W")) return tr("'%1' is neither E nor W.").arg(place.TextEW);
@@ -206,15 +270,15 @@ PersonsFile::Contents ReadCsv(const QString &text) {
       for (qsizetype c = 0; c < columns.size(); ++c) cells.insert(columns[c], lines[i].cells[c]);
       fault = Assemble(cells, record);
     }
-    if (fault.isEmpty())
-      contents.persons.push_back(std::move(record));
-    else
-      contents.faults << tr("Line %1: %2").arg(QString::number(lines[i].number), fault);
+    contents.Take(std::move(record), fault, lines[i].number);
   }
   return contents;
 }
 
-QString TextOf(const QJsonValue &value) { return value.isDouble() ? QString::number(value.toDouble(), 'g', 15) : value.toString(); }
+QString TextOf(const QJsonValue &value) {
+  if (value.isObject()) return QString::fromUtf8(QJsonDocument(value.toObject()).toJson(QJsonDocument::Compact));
+  return value.isDouble() ? QString::number(value.toDouble(), 'g', 15) : value.toString();
+}
 
 // The lines on which the objects inside the first list begin, from 1.
 std::vector<int> LinesOfObjects(const QByteArray &content) {
@@ -261,10 +325,7 @@ PersonsFile::Contents ReadJson(const QByteArray &content) {
     for (auto entry = person.begin(); entry != person.end(); ++entry) cells.insert(entry.key().toLower(), TextOf(entry.value()));
     PersonRecord record;
     const QString fault = Assemble(cells, record);
-    if (fault.isEmpty())
-      contents.persons.push_back(std::move(record));
-    else
-      contents.faults << tr("Line %1: %2").arg(QString::number(line), fault);
+    contents.Take(std::move(record), fault, line);
   }
   return contents;
 }
@@ -276,7 +337,7 @@ PersonsFile::Format PersonsFile::FormatOf(const QString &path) {
 }
 
 QString PersonsFile::FaultOf(const PersonRecord &record) {
-  if (record.Name.trimmed().isEmpty()) return tr("the name is missing.");
+  if (record.Name.trimmed().isEmpty()) return NoName();
   if (record.Year < 1 || !QDate(record.Year, record.Month, record.Day).isValid())
     return tr("there is no %1 %2 %3.")
         .arg(QString::number(record.Day),
@@ -289,31 +350,52 @@ QString PersonsFile::FaultOf(const PersonRecord &record) {
   return record.residence ? PlaceFault(*record.residence) : QString();
 }
 
+void PersonsFile::Contents::Take(PersonRecord &&record, const QString &fault, int line) {
+  if (!fault.isEmpty()) {
+    faults << tr("Line %1: %2").arg(QString::number(line), fault);
+    return;
+  }
+  const auto isBeyond = [](const PersonPlace &place) { return place.LatDeg * 60 + place.LatMT > NorthPole * 60; };
+  if (isBeyond(record.birth) || (record.residence && isBeyond(*record.residence)))
+    doubts
+        << tr("Line %1 is taken in, though no place on the earth lies beyond latitude 090:00: %2.").arg(QString::number(line), record.Name);
+  persons.push_back(std::move(record));
+}
+
 QByteArray PersonsFile::Write(const std::vector<PersonRecord> &persons, Format format) {
   if (format == Format::Json) {
     QByteArray text("{\"persons\": [");
     for (std::size_t i = 0; i < persons.size(); ++i) {
       QJsonObject person;
       const auto insert = [&](const Field &field) {
-        const QString value = field.get(persons[i]);
-        person.insert(QLatin1String(field.name), field.isNumber ? QJsonValue(value.toInt()) : QJsonValue(value));
+        const QString value = CellText(persons[i], field);
+        bool isWhole = false;
+        const int number = value.toInt(&isWhole);
+        const bool isOdd = persons[i].odd.contains(QLatin1String(field.name));
+        if (!value.isEmpty() || !field.isNumber || isOdd)
+          person.insert(QLatin1String(field.name), field.isNumber && isWhole && !isOdd ? QJsonValue(number) : QJsonValue(value));
       };
       for (const Field &field : PersonColumns) insert(field);
       if (persons[i].residence)
         for (const Field &field : ResidenceColumns) insert(field);
+      if (const QByteArray asStored = AsStoredText(persons[i]); !asStored.isEmpty())
+        person.insert(AsStored, QJsonDocument::fromJson(asStored).object());
       text += (i == 0 ? "\n" : ",\n") + QJsonDocument(person).toJson(QJsonDocument::Compact);
     }
     return text + "\n]}\n";
   }
+  const bool hasOdd = std::any_of(persons.begin(), persons.end(), [](const PersonRecord &one) { return !AsStoredText(one).isEmpty(); });
   QStringList heading;
   for (const Field &field : PersonColumns) heading << QLatin1String(field.name);
   for (const Field &field : ResidenceColumns) heading << QLatin1String(field.name);
+  if (hasOdd) heading << AsStored;
   // The mark at the start tells table programs that the text is UTF-8.
   QByteArray text = "\xEF\xBB\xBF" + heading.join(u',').toUtf8() + "\r\n";
   for (const PersonRecord &person : persons) {
     QStringList cells;
-    for (const Field &field : PersonColumns) cells << Quoted(field.get(person));
-    for (const Field &field : ResidenceColumns) cells << (person.residence ? Quoted(field.get(person)) : QString());
+    for (const Field &field : PersonColumns) cells << Quoted(CellText(person, field));
+    for (const Field &field : ResidenceColumns) cells << (person.residence ? Quoted(CellText(person, field)) : QString());
+    if (hasOdd) cells << Quoted(QString::fromUtf8(AsStoredText(person)));
     text += cells.join(u',').toUtf8() + "\r\n";
   }
   return text;

@@ -24,6 +24,10 @@ class PersonsFile {
     std::vector<PersonRecord> persons;
     // One sentence for each row that was left out, with its line: "Line 7: there is no 31 February 1980."
     QStringList faults;
+    // One sentence for each row that came in and looks wrong all the same.
+    QStringList doubts;
+
+    void Take(PersonRecord &&record, const QString &fault, int line);
   };
   // Bad rows are left out and told; the good ones come in. Throws ConversionError where nothing of the file can be read.
   static Contents Read(const QByteArray &content, Format format);

@@ -46,6 +46,15 @@ TEST_F(PersonFiles, WritesBothFilesAndKeepsTheSexOfASavedPerson) {
   EXPECT_EQ(store.At(-1), std::nullopt);
   EXPECT_EQ(store.At(before + 1), std::nullopt);
   EXPECT_EQ(store.At(before)->Name, "mira");
+
+  // What counts as one name is the store's word: it folds A to Z alone.
+  for (const char *name : {"\u00c9MILE", "\u00e9mile", " \u00c9mile "}) {
+    const bool isFirst = !store.Has(name);
+    record.Name = name;
+    EXPECT_EQ(store.Save(record) == PersonStore::Outcome::Added, isFirst) << name;
+    EXPECT_EQ(PersonStore::IsSameName(name, "\u00c9mile"), store.Find("\u00c9mile")->Name == QString(name).trimmed()) << name;
+  }
+  EXPECT_EQ(Rows(*persons, "Person"), before + 3);
 }
 
 TEST_F(PersonFiles, EveryNameIsAName) {
