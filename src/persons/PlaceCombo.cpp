@@ -7,6 +7,9 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QStandardItemModel>
+#include <algorithm>
+
+#include "content/Theme.h"
 
 namespace {
 
@@ -29,7 +32,8 @@ class PlaceCombo::ListModel : public QAbstractListModel {
   QVariant data(const QModelIndex &index, int role) const override {
     if (!index.isValid()) return {};
     const PlaceSearch::Listed &place = listed.at(static_cast<std::size_t>(index.row()));
-    if (role == Qt::DisplayRole || role == Qt::EditRole) return place.city;
+    if (role == Qt::DisplayRole) return place.label;
+    if (role == Qt::EditRole) return place.city;
     return role == RowNumber ? QVariant(place.row) : QVariant();
   }
 
@@ -79,9 +83,24 @@ void PlaceCombo::SetSearch(const PlaceSearch *places) {
 
 void PlaceCombo::ListCountry(const QString &name) {
   const QString text = currentText();
-  list->Set(search ? search->CitiesOf(name) : std::vector<PlaceSearch::Listed>());
+  std::vector<PlaceSearch::Listed> places = search ? search->CitiesOf(name) : std::vector<PlaceSearch::Listed>();
+  const auto longest =
+      std::max_element(places.begin(), places.end(), [](const auto &a, const auto &b) { return a.label.size() < b.label.size(); });
+  widestLabel = longest == places.end() ? QString() : longest->label;
+  list->Set(std::move(places));
   setCurrentIndex(-1);
   setEditText(text);
+}
+
+// What tells two places apart stands at the end of a line, so a line must not be cut.
+void PlaceCombo::showPopup() {
+  view()->setMinimumWidth(RoomFor(*view(), widestLabel));
+  QComboBox::showPopup();
+}
+
+int PlaceCombo::RoomFor(const QAbstractItemView &rows, const QString &label) {
+  const int text = rows.fontMetrics().horizontalAdvance(label) + 4 * Grid::Gap;
+  return text + rows.style()->pixelMetric(QStyle::PM_ScrollBarExtent);
 }
 
 void PlaceCombo::ShowCity(const QString &name) {
@@ -103,12 +122,16 @@ void PlaceCombo::Typed(const QString &text) {
   lastTyped = text;
   suggestions->clear();
   if (!search) return;
+  QAbstractItemView &rows = *lineEdit()->completer()->popup();
+  int room = 0;
   for (const PlaceSearch::Found &found : search->Find(text, country, MostSuggestions)) {
     auto *item = new QStandardItem(found.Label());
     item->setData(found.place.City, CityName);
     item->setData(found.place.row, RowNumber);
     suggestions->appendRow(item);
+    room = std::max(room, RoomFor(rows, item->text()));
   }
+  rows.setMinimumWidth(room);
   const auto first = search->First(text, country);
   if (!first) {
     emit Unmatched();

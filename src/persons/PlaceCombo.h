@@ -23,6 +23,7 @@ class PlaceCombo : public QComboBox {
   // Fills the drop-down list with the places of a country, of the whole world for an empty text. The text stays.
   void ListCountry(const QString &name);
   void ShowCity(const QString &name);  // tells nobody
+  void showPopup() override;
 
   // Completes a typed start to the whole text: the part that was not typed is selected, so that typing on replaces it.
   static void CompleteInline(QLineEdit &edit, const QString &typed, const QString &whole);
@@ -33,6 +34,7 @@ class PlaceCombo : public QComboBox {
 
  private:
   void Typed(const QString &text);
+  static int RoomFor(const QAbstractItemView &rows, const QString &label);  // the width of a list that shows it whole
 
   const PlaceSearch *search = nullptr;
   class ListModel;
@@ -40,4 +42,5 @@ class PlaceCombo : public QComboBox {
   QStandardItemModel *suggestions;
   QString country;
   QString lastTyped;
+  QString widestLabel;  // of the drop-down list
 };

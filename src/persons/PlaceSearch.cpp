@@ -9,6 +9,7 @@
 #include <cmath>
 #include <tuple>
 
+#include "engine/Functions.h"
 #include "persons/PersonFields.h"
 
 namespace {
@@ -40,8 +41,15 @@ QString PlainLetter(QChar letter) {
   }
 }
 
+// Nothing but letters from A to Z and single blanks between them.
 bool IsPlain(const QString &text) {
-  return std::all_of(text.begin(), text.end(), [](QChar c) { return (c >= u'a' && c <= u'z') || c == u' '; });
+  QChar before = u' ';
+  for (const QChar c : text) {
+    const bool isLetter = (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z');
+    if (!isLetter && (c != u' ' || before == u' ')) return false;
+    before = c;
+  }
+  return before != u' ';
 }
 
 Place ReadPlace(const Recordset &row) {
@@ -64,6 +72,18 @@ Place ReadPlace(const Recordset &row) {
   return place;
 }
 
+// Where a place lies, "27\u00b009'N 78\u00b000'E"; a text that is no angle as it is.
+QString Position(const Place &place) {
+  const auto angle = [](const QString &stored, const QString &hemisphere) {
+    const auto read = PersonFields::ReadDegrees(PersonFields::ShownDegrees(stored));
+    const QString size = read ? QStringLiteral("%1\u00b0%2'").arg(QString::number(read->degrees), Functions::Two(read->minutes)) : stored;
+    return size + hemisphere;
+  };
+  return angle(place.Lat, place.NOSO) + QLatin1Char(' ') + angle(place.Longy, place.EaWe);
+}
+
+QString WithPosition(const QString &label, const Place &place) { return QStringLiteral("%1 (%2)").arg(label, Position(place)); }
+
 int SignedArcMinutes(const QString &stored, bool negative) {
   const auto angle = PersonFields::ReadDegrees(PersonFields::ShownDegrees(stored));
   return angle ? (negative ? -1 : 1) * angle->ArcMinutes() : 0;
@@ -72,8 +92,8 @@ int SignedArcMinutes(const QString &stored, bool negative) {
 }  // namespace
 
 QString PlaceSearch::Fold(const QString &text) {
-  QString lower = text.simplified().toLower();
-  if (IsPlain(lower)) return lower;
+  if (IsPlain(text)) return text.toLower();
+  const QString lower = text.simplified().toLower();
   QString plain;
   for (const QChar c : lower.normalized(QString::NormalizationForm_D))
     if (c.category() != QChar::Mark_NonSpacing) plain += PlainLetter(c);
@@ -84,7 +104,8 @@ QString PlaceSearch::Found::Label() const {
   QStringList parts{place.City};
   if (!place.Region.isEmpty() && Fold(place.Region) != Fold(place.City)) parts << place.Region;
   parts << place.Country;
-  return parts.join(QStringLiteral(", "));
+  const QString label = parts.join(QStringLiteral(", "));
+  return isAlone ? label : WithPosition(label, place);
 }
 
 PlaceSearch::PlaceSearch(std::shared_ptr<Database> personDb) : db(std::move(personDb)) {
@@ -106,9 +127,11 @@ PlaceSearch::PlaceSearch(std::shared_ptr<Database> personDb) : db(std::move(pers
 
   QSqlQuery query(db->Handle());
   query.setForwardOnly(true);
-  if (!query.exec(QStringLiteral("SELECT rowid, City, Country, %1, %2 FROM City").arg(orEmpty("Population"), orEmpty("Known"))))
+  if (!query.exec(QStringLiteral("SELECT rowid, City, Country, %1, %2, %3 FROM City")
+                      .arg(orEmpty("Population"), orEmpty("Known"), orEmpty("Region"))))
     throw db->Failure(query);
-  QHash<QString, int> indexOfCountry;
+  QHash<QString, int> indexOfCountry, indexOfRegion;
+  QStringList foldedRegions;
   while (query.next()) {
     Entry entry;
     entry.row = query.value(0).toLongLong();
@@ -124,15 +147,35 @@ PlaceSearch::PlaceSearch(std::shared_ptr<Database> personDb) : db(std::move(pers
 
     const int index = static_cast<int>(entries.size());
     const QString folded = Fold(entry.city);
-    keys.push_back({folded, index, Key::Kind::Name});
+    if (const QString region = query.value(5).toString(); !region.isEmpty()) {
+      auto seen = indexOfRegion.find(region);
+      if (seen == indexOfRegion.end()) {
+        seen = indexOfRegion.insert(region, static_cast<int>(regionNames.size()));
+        regionNames << region;
+        foldedRegions << Fold(region);
+      }
+      if (foldedRegions[*seen] != folded) entry.region = *seen;
+    }
+    AddKey(folded, index, Key::Kind::Name);
     for (qsizetype blank = folded.indexOf(u' '); blank > 0; blank = folded.indexOf(u' ', blank + 1))
-      keys.push_back({folded.mid(blank + 1), index, Key::Kind::Inside});
+      AddKey(folded.mid(blank + 1), index, Key::Kind::Inside);
     const QString others = query.value(4).toString();
     if (!others.isEmpty())
-      for (const QString &other : others.split(u';', Qt::SkipEmptyParts)) keys.push_back({Fold(other), index, Key::Kind::Known});
+      for (const QString &other : others.split(u';', Qt::SkipEmptyParts)) AddKey(Fold(other), index, Key::Kind::Known);
     entries.push_back(std::move(entry));
   }
-  std::sort(keys.begin(), keys.end(), [](const Key &a, const Key &b) { return a.text < b.text; });
+  std::sort(keys.begin(), keys.end(), [this](const Key &a, const Key &b) {
+    if (a.start != b.start) return a.start < b.start;
+    if (const int order = a.text.compare(b.text); order != 0) return order < 0;
+    const Entry &one = EntryOf(a), &other = EntryOf(b);
+    return std::tuple(-one.population, one.row) < std::tuple(-other.population, other.row);
+  });
+}
+
+void PlaceSearch::AddKey(const QString &text, int entry, Key::Kind kind) {
+  quint64 start = 0;
+  for (qsizetype i = 0; i < 4; ++i) start = start << 16 | (i < text.size() ? text[i].unicode() : 0U);
+  keys.push_back({text, start, entry, kind});
 }
 
 int PlaceSearch::CountryIndex(const QString &name) const {
@@ -180,7 +223,19 @@ PlaceSearch::Found PlaceSearch::LoadHit(const Hit &hit, bool ofCountry) const {
   found.place = Load(entries[static_cast<std::size_t>(hit.entry)].row).value_or(Place());
   found.byStart = hit.kind == Key::Kind::Name;
   found.ofCountry = ofCountry;
+  found.isAlone = IsAlone(hit.entry);
   return found;
+}
+
+bool PlaceSearch::IsAlone(int entry) const {
+  const Entry &own = entries[static_cast<std::size_t>(entry)];
+  const QString folded = Fold(own.city);
+  auto key = std::lower_bound(keys.begin(), keys.end(), folded, [](const Key &k, const QString &text) { return k.text < text; });
+  for (; key != keys.end() && key->text == folded; ++key) {
+    const Entry &other = EntryOf(*key);
+    if (key->entry != entry && key->kind == Key::Kind::Name && other.country == own.country && other.region == own.region) return false;
+  }
+  return true;
 }
 
 std::vector<PlaceSearch::Found> PlaceSearch::Find(const QString &typed, const QString &country, int limit) const {
@@ -226,13 +281,44 @@ std::optional<Place> PlaceSearch::At(const QString &city, const QString &country
 
 std::vector<PlaceSearch::Listed> PlaceSearch::CitiesOf(const QString &country) const {
   const int index = country.isEmpty() ? -1 : CountryIndex(country);
+  if (!country.isEmpty() && index < 0) return {};
+  if (listedCountry == index) return lastListed;
   std::vector<Listed> listed;
-  if (!country.isEmpty() && index < 0) return listed;
-  for (const Key &key : keys) {
-    const Entry &entry = entries[static_cast<std::size_t>(key.entry)];
-    if (key.kind == Key::Kind::Name && (index < 0 || entry.country == index)) listed.push_back({entry.city, entry.row});
+  std::vector<const Key *> chosen;
+  for (const Key &key : keys)
+    if (key.kind == Key::Kind::Name && (index < 0 || EntryOf(key).country == index)) chosen.push_back(&key);
+  listed.reserve(chosen.size());
+  for (auto begin = chosen.begin(); begin != chosen.end();) {
+    const auto end = std::find_if(begin, chosen.end(), [&](const Key *key) { return key->text != (*begin)->text; });
+    const QStringList labels = LabelsOf({begin, end}, index < 0);
+    for (const QString &label : labels) {
+      const Entry &entry = EntryOf(**begin++);
+      listed.push_back({entry.city, label, entry.row});
+    }
   }
+  listedCountry = index;
+  lastListed = listed;
   return listed;
+}
+
+QStringList PlaceSearch::LabelsOf(std::span<const Key *const> sameName, bool withCountry) const {
+  if (sameName.size() == 1) return {EntryOf(*sameName.front()).city};
+  QStringList labels;
+  QHash<QString, int> times;  // by label without accents
+  for (const Key *key : sameName) {
+    const Entry &entry = EntryOf(*key);
+    QStringList parts{entry.city};
+    if (entry.region >= 0) parts << regionNames[entry.region];
+    if (withCountry) parts << countryNames[entry.country];
+    labels << parts.join(QStringLiteral(", "));
+    ++times[Fold(labels.back())];
+  }
+  for (std::size_t i = 0; i < sameName.size(); ++i) {
+    QString &label = labels[static_cast<qsizetype>(i)];
+    if (times.value(Fold(label)) < 2) continue;
+    if (const auto place = Load(EntryOf(*sameName[i]).row)) label = WithPosition(label, *place);
+  }
+  return labels;
 }
 
 const PlaceSearch::Country *PlaceSearch::FindCountry(const QString &typed) const {

@@ -6,7 +6,7 @@
 #include <QStringList>
 #include <memory>
 #include <optional>
-#include <string>
+#include <span>
 #include <vector>
 
 #include "persons/Place.h"
@@ -25,7 +25,8 @@ class PlaceSearch {
     Place place;
     bool byStart = true;    // the place's own name begins with what was typed
     bool ofCountry = true;  // it lies in the country that was asked for
-    // "Springfield, Illinois, United States of America"; with the other name where that was the one found.
+    bool isAlone = true;    // no other place shares its name, region and country
+    // "Springfield, Illinois, United States of America"; followed by the position where the place is not alone.
     QString Label() const;
   };
 
@@ -42,9 +43,10 @@ class PlaceSearch {
 
   struct Listed {
     QString city;
+    QString label;  // the city, with what tells it from others of its name in the list: region, then position
     qlonglong row = 0;
   };
-  // A country's places by name, for its list; those of the whole world for an empty text.
+  // A country's places by name, for its list; those of the whole world for an empty text. Of one name, the larger comes first.
   std::vector<Listed> CitiesOf(const QString &country) const;
   // The whole row of a listed place; nothing where it was deleted meanwhile.
   std::optional<Place> Load(qlonglong row) const { return Load(*db, row); }
@@ -60,11 +62,13 @@ class PlaceSearch {
   struct Entry {
     QString city;
     int country = 0;  // index of countryNames
+    int region = -1;  // index of regionNames; -1 where there is none, or where it is called as the city is
     qlonglong row = 0;
     qlonglong population = 0;
   };
   struct Key {
     QString text;
+    quint64 start = 0;  // the first four letters, to sort by
     int entry = 0;
     enum class Kind : char { Name, Known, Inside } kind = Kind::Name;  // Inside: from a later word of the name on
   };
@@ -74,13 +78,21 @@ class PlaceSearch {
     bool exact;
   };
 
+  void AddKey(const QString &text, int entry, Key::Kind kind);
   std::vector<Hit> Hits(const QString &folded, int country, bool elsewhere, std::size_t limit) const;
   int CountryIndex(const QString &name) const;  // -1 for none
   Found LoadHit(const Hit &hit, bool ofCountry) const;
+  bool IsAlone(int entry) const;
+  const Entry &EntryOf(const Key &key) const { return entries[static_cast<std::size_t>(key.entry)]; }
+  // The labels of places of one name, each as long as it must be to tell it from the others.
+  QStringList LabelsOf(std::span<const Key *const> sameName, bool withCountry) const;
 
   std::shared_ptr<Database> db;
   std::vector<Entry> entries;
-  std::vector<Key> keys;  // by text
-  QStringList countryNames;
+  std::vector<Key> keys;  // by text; of one text, the larger place first
+  QStringList countryNames, regionNames;
   std::vector<Country> countries;
+  // The list that was asked for last: a screen with two fields asks for it twice.
+  mutable std::optional<int> listedCountry;
+  mutable std::vector<Listed> lastListed;
 };

@@ -60,6 +60,55 @@ TEST_F(PersonFiles, FindsThePlaceThatIsMeant) {
   EXPECT_GT(search.CitiesOf("India").size(), 3000U);
 }
 
+TEST_F(PersonFiles, PlacesOfOneNameAreToldApart) {
+  const auto persons = OpenPersons();
+  persons->Execute(
+      "INSERT INTO City (City, Country, Lat, Longy, NOSO, EaWe, Region) VALUES ('agra', 'India', 'soon', '07800', 'N', 'E', '')");
+  const PlaceSearch search(persons);
+  for (const char *country : {"India", "United States of America", ""}) {
+    const auto listed = search.CitiesOf(country);
+    QSet<QString> labels;
+    QString last;
+    qlonglong population = 0;
+    for (const PlaceSearch::Listed &place : listed) {
+      EXPECT_FALSE(labels.contains(place.label)) << place.label;
+      labels << place.label;
+      EXPECT_TRUE(place.label.startsWith(place.city)) << place.label;
+      const QString name = PlaceSearch::Fold(place.city);
+      ASSERT_LE(last, name) << "by name";
+      if (*country && last == name) {
+        const qlonglong here = search.Load(place.row)->Population;
+        EXPECT_GE(population, here) << "the larger first: " << place.label;
+        population = here;
+      } else if (*country) {
+        population = search.Load(place.row)->Population;
+      }
+      last = name;
+    }
+  }
+  const auto labelsOf = [&](const char *city, const char *country) {
+    QStringList labels;
+    for (const PlaceSearch::Listed &place : search.CitiesOf(country))
+      if (place.city.compare(city, Qt::CaseInsensitive) == 0) labels << place.label;
+    return labels;
+  };
+  EXPECT_EQ(labelsOf("Mumbai", "India"), QStringList{"Mumbai"}) << "no more than must be";
+  EXPECT_EQ(labelsOf("Agra", "India"), (QStringList{"Agra, Uttar Pradesh", "agra"}));
+  EXPECT_TRUE(labelsOf("Udaipur", "India").contains("Udaipur, Rajasthan (24\u00b035'N 73\u00b043'E)"))
+      << labelsOf("Udaipur", "India").join(u'|');
+  EXPECT_EQ(labelsOf("Springfield", "United States of America").value(0), "Springfield, Missouri");
+
+  // Whatever is typed, no two suggestions read alike.
+  Recordset alike = persons->OpenRecordset("SELECT City, Country FROM City GROUP BY City, Country, Region HAVING COUNT(*) > 1");
+  EXPECT_GT(alike.RecordCount(), 100);
+  for (; !alike.AtEnd(); alike.MoveNext()) {
+    QSet<QString> labels;
+    const auto found = search.Find(alike.Field("City").toString(), alike.Field("Country").toString(), 12);
+    for (const PlaceSearch::Found &one : found) labels << one.Label();
+    EXPECT_EQ(static_cast<std::size_t>(labels.size()), found.size()) << alike.Field("City").toString();
+  }
+}
+
 TEST_F(PersonFiles, ShippedPlacesAreSoundOnTheWholeSet) {
   Recordset city = OpenPersons()->OpenRecordset("SELECT * FROM City");
   int south = 0;
