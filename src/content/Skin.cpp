@@ -41,15 +41,18 @@ QByteArray Drawing(const QString &name, Skin::State state) {
 // Draws the SVG at every size and scale that is asked for.
 class DrawingEngine : public QIconEngine {
  public:
-  explicit DrawingEngine(std::shared_ptr<QSvgRenderer> drawing) : renderer(std::move(drawing)) {}
+  // unusable: the drawing of a button that is disabled; a faint one of `drawing` where there is none.
+  explicit DrawingEngine(std::shared_ptr<QSvgRenderer> drawing, std::shared_ptr<QSvgRenderer> unusable = nullptr)
+      : renderer(std::move(drawing)), disabled(std::move(unusable)) {}
 
   void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State) override {
-    if (mode == QIcon::Disabled) painter->setOpacity(0.4);
-    QSizeF size = renderer->defaultSize();
+    if (mode == QIcon::Disabled && !disabled) painter->setOpacity(0.4);
+    QSvgRenderer &chosen = mode == QIcon::Disabled && disabled ? *disabled : *renderer;
+    QSizeF size = chosen.defaultSize();
     size.scale(rect.size(), Qt::KeepAspectRatio);
     QRectF room(QPointF(), size);
     room.moveCenter(QRectF(rect).center());
-    renderer->render(painter, room);
+    chosen.render(painter, room);
   }
   QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override {
     QPixmap picture(size);
@@ -58,12 +61,12 @@ class DrawingEngine : public QIconEngine {
     paint(&painter, QRect(QPoint(), size), mode, state);
     return picture;
   }
-  QIconEngine *clone() const override { return new DrawingEngine(renderer); }
+  QIconEngine *clone() const override { return new DrawingEngine(renderer, disabled); }
   QList<QSize> availableSizes(QIcon::Mode, QIcon::State) override { return {renderer->defaultSize()}; }
   QSize actualSize(const QSize &size, QIcon::Mode, QIcon::State) override { return size; }
 
  private:
-  std::shared_ptr<QSvgRenderer> renderer;
+  std::shared_ptr<QSvgRenderer> renderer, disabled;
 };
 
 }  // namespace
@@ -77,6 +80,20 @@ QIcon Picture(const QString &name, State state) {
   if (drawing.isEmpty()) return {};
   auto renderer = std::make_shared<QSvgRenderer>(drawing);
   return renderer->isValid() ? QIcon(new DrawingEngine(std::move(renderer))) : QIcon();
+}
+
+QIcon OnPrimary(const QString &name) {
+  QFile file(QStringLiteral("%1/%2.svg").arg(Folder(), name));
+  if (!file.open(QIODevice::ReadOnly)) return {};
+  const QByteArray drawing = file.readAll();
+  const auto inOneInk = [&](const QColor &ink) {
+    QByteArray inked = drawing;
+    for (const char *colour : {"#2B2320", "#B9540F"}) inked.replace(colour, ink.name().toLatin1());
+    return std::make_shared<QSvgRenderer>(inked);
+  };
+  const Theme &theme = Theme::Current();
+  auto renderer = inOneInk(theme.dark ? theme.chart.paper : theme.chart.card);
+  return renderer->isValid() ? QIcon(new DrawingEngine(std::move(renderer), inOneInk(theme.chart.muted))) : QIcon();
 }
 
 QPixmap Pixmap(const QString &name, const QSize &size, qreal devicePixelRatio) { return Picture(name).pixmap(size, devicePixelRatio); }

@@ -17,6 +17,9 @@ void SetFolder(const QString &folder);
 // name: the element's name, such as "flpCharts" or "page09".
 QIcon Picture(const QString &name, State state = State::Normal);
 
+// The picture for a button of the role "primary", in the one ink that stands out on its ground.
+QIcon OnPrimary(const QString &name);
+
 // The drawing as a pixmap of a size in device-independent pixels, for labels.
 QPixmap Pixmap(const QString &name, const QSize &size, qreal devicePixelRatio);
 

@@ -48,17 +48,19 @@ PlaceEditor::PlaceEditor(const Names &names, const QString &what, QWidget *paren
   country->setMinimumContentsLength(12);
   country->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   country->setAccessibleName(tr("Country of %1").arg(what));
+  country->setToolTip(tr("Choose the country of %1, or type the start of its name.").arg(what));
   AddRow(tr("Country"), country, nullptr, nullptr);
 
   city = new PlaceCombo;
   city->setObjectName(QLatin1String(names.city));
   city->setAccessibleName(tr("City of %1").arg(what));
+  city->setToolTip(tr("Choose the city of %1, or type the start of its name: position and time difference follow.").arg(what));
   AddRow(tr("City"), city, nullptr, nullptr);
 
   difference = new QLineEdit;
   difference->setObjectName(QLatin1String(names.difference));
   difference->setAccessibleName(tr("Time difference from GMT, place of %1, as +hours.minutes").arg(what));
-  difference->setToolTip(tr("Hours and minutes ahead of Greenwich, as +05.30; behind it with a minus sign."));
+  difference->setToolTip(tr("Enter the hours and minutes ahead of Greenwich, as +05.30; behind it with a minus sign."));
   differenceFault = MakeFault();
   takeClock = new QPushButton;
   takeClock->setObjectName(QStringLiteral("cmdUse_") + QLatin1String(names.difference));
@@ -76,10 +78,15 @@ PlaceEditor::PlaceEditor(const Names &names, const QString &what, QWidget *paren
   latitude = MakeAngle(names.latitude, names.northSouth, {QStringLiteral("N"), QStringLiteral("S")}, tr("Latitude"));
   longitude = MakeAngle(names.longitude, names.eastWest, {QStringLiteral("E"), QStringLiteral("W")}, tr("Longitude"));
   for (const Angle *angle : {&latitude, &longitude}) {
-    angle->edit->setAccessibleName(
-        tr("%1, place of %2, as degrees:minutes").arg(angle == &latitude ? tr("Latitude") : tr("Longitude"), what));
+    const bool isLatitude = angle == &latitude;
+    angle->edit->setAccessibleName(tr("%1, place of %2, as degrees:minutes").arg(isLatitude ? tr("Latitude") : tr("Longitude"), what));
+    angle->edit->setToolTip(isLatitude ? tr("Enter the latitude in degrees and minutes of arc, as 027:09.")
+                                       : tr("Enter the longitude in degrees and minutes of arc, as 078:00."));
+    angle->hemisphere->setToolTip(isLatitude ? tr("Choose N north of the equator, S south of it.")
+                                             : tr("Choose E east of Greenwich, W west of it."));
     connect(angle->edit, &QLineEdit::textEdited, this, [this, fault = angle->fault] {
       Say(*fault, QString());
+      DoubtLatitude();
       ShowClock();
       emit Changed();
     });
@@ -140,7 +147,6 @@ void PlaceEditor::AddRow(const QString &label, QWidget *field, QWidget *beside, 
 PlaceEditor::Angle PlaceEditor::MakeAngle(const char *name, const char *hemisphereName, const QStringList &letters, const QString &label) {
   Angle angle{new QLineEdit, new QComboBox, MakeFault()};
   angle.edit->setObjectName(QLatin1String(name));
-  angle.edit->setToolTip(tr("Degrees and minutes of arc, as 027:09."));
   angle.hemisphere->setObjectName(QLatin1String(hemisphereName));
   angle.hemisphere->addItems(letters);
   angle.hemisphere->setAccessibleName(tr("%1: %2").arg(label, letters.join(QStringLiteral(" or "))));
@@ -184,6 +190,7 @@ void PlaceEditor::ChoseCountry(const QString &name, const QString &countryDiffer
 
 // The country that comes with a city does not narrow the typing: the user has not chosen it.
 void PlaceEditor::TakePlace(const Place &place) {
+  taken = place;
   country->setEditText(place.Country);
   lastCountryTyped = place.Country;
   difference->setText(PersonFields::ShownDifference(place.GMTDIFF));
@@ -191,7 +198,7 @@ void PlaceEditor::TakePlace(const Place &place) {
   longitude.edit->setText(PersonFields::ShownDegrees(place.Longy));
   SelectLetter(*latitude.hemisphere, place.NOSO);
   SelectLetter(*longitude.hemisphere, place.EaWe);
-  for (QLabel *fault : {differenceFault, latitude.fault, longitude.fault}) Say(*fault, QString());
+  ClearFaults();
   ShowClock();
   emit Changed();
 }
@@ -216,8 +223,21 @@ void PlaceEditor::Show(const PersonPlace &place) {
   longitude.edit->setText(PersonFields::DegreesText(place.LongDeg, place.LongMT));
   SelectLetter(*latitude.hemisphere, place.TextNS);
   SelectLetter(*longitude.hemisphere, place.TextEW);
-  for (QLabel *fault : {differenceFault, latitude.fault, longitude.fault}) Say(*fault, QString());
+  ClearFaults();
   ShowClock();
+}
+
+void PlaceEditor::ClearFaults() {
+  for (QLabel *fault : {differenceFault, latitude.fault, longitude.fault}) Say(*fault, QString());
+  DoubtLatitude();
+}
+
+// A latitude is let pass up to 180, as that of a city is; beyond the pole it is most likely a slip of the pen.
+void PlaceEditor::DoubtLatitude() {
+  const auto north = PersonFields::ReadDegrees(latitude.edit->text());
+  if (!north || north->ArcMinutes() <= NorthPole * 60) return;
+  SetRole(*latitude.fault, "warn");
+  Say(*latitude.fault, tr("No place on the earth lies beyond 090:00. Please check."));
 }
 
 void PlaceEditor::Empty(const QString &withDifference) {
@@ -231,6 +251,7 @@ std::optional<PersonPlace> PlaceEditor::Read() {
   place.City = city->currentText().trimmed();
   bool isSound = true;
   const auto refuse = [&](QLabel *fault, const QString &sentence) {
+    SetRole(*fault, "bad");
     Say(*fault, sentence);
     isSound = false;
   };
@@ -241,9 +262,7 @@ std::optional<PersonPlace> PlaceEditor::Read() {
     refuse(differenceFault, tr("Please write hours and minutes ahead of Greenwich with two digits of minutes, as +05.30."));
   const auto north = PersonFields::ReadDegrees(latitude.edit->text());
   if (!north)
-    refuse(latitude.fault, tr("Please write degrees and minutes, as 027:09."));
-  else if (north->ArcMinutes() > NorthPole * 60)
-    refuse(latitude.fault, tr("No place lies beyond 090:00."));
+    refuse(latitude.fault, tr("Please write degrees up to 180 and minutes, as 027:09."));
   else
     std::tie(place.LatDeg, place.LatMT) = std::pair(north->degrees, north->minutes);
   const auto east = PersonFields::ReadDegrees(longitude.edit->text());
@@ -269,8 +288,17 @@ void PlaceEditor::SetMoment(const QDate &day, const QTime &clockTime) {
 std::optional<Place> PlaceEditor::KnownPlace() const {
   const auto north = PersonFields::ReadDegrees(latitude.edit->text()), east = PersonFields::ReadDegrees(longitude.edit->text());
   if (!search || !north || !east) return std::nullopt;
-  return search->At(city->currentText(), country->currentText(), (latitude.hemisphere->currentIndex() == 1 ? -1 : 1) * north->ArcMinutes(),
-                    (longitude.hemisphere->currentIndex() == 1 ? -1 : 1) * east->ArcMinutes());
+  auto known =
+      search->At(city->currentText(), country->currentText(), (latitude.hemisphere->currentIndex() == 1 ? -1 : 1) * north->ArcMinutes(),
+                 (longitude.hemisphere->currentIndex() == 1 ? -1 : 1) * east->ArcMinutes());
+  // A name that is typed in part, or another name of the place, has filled in the place all the same.
+  const auto stands = [](const Angle &angle, const QString &stored, const QString &letter) {
+    return angle.edit->text() == PersonFields::ShownDegrees(stored) && angle.hemisphere->currentText() == letter;
+  };
+  if (!known && taken && country->currentText() == taken->Country && stands(latitude, taken->Lat, taken->NOSO) &&
+      stands(longitude, taken->Longy, taken->EaWe))
+    known = taken;
+  return known;
 }
 
 void PlaceEditor::ShowClock() {
@@ -307,6 +335,7 @@ void PlaceEditor::SetTexts(const QStringList &texts) {
   SelectLetter(*latitude.hemisphere, texts.value(4));
   longitude.edit->setText(texts.value(5));
   SelectLetter(*longitude.hemisphere, texts.value(6));
+  ClearFaults();
   ShowClock();
 }
 

@@ -66,6 +66,8 @@ class PlaceEditor : public QWidget {
   void ChoseCountry(const QString &name, const QString &difference);
   void TakePlace(const Place &place);
   void TakeNoPlace();
+  void ClearFaults();
+  void DoubtLatitude();
   void ShowClock();
   std::optional<Place> KnownPlace() const;
 
@@ -78,6 +80,7 @@ class PlaceEditor : public QWidget {
   QPushButton *takeClock;
   Angle latitude, longitude;
   QString lastCountryTyped;
+  std::optional<Place> taken;  // the place that last filled in the fields
   QDate date;
   QTime time;
 };

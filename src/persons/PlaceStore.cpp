@@ -13,6 +13,8 @@ namespace {
 // Farther than this, a row is of another place, and what is known of the old one no longer holds.
 constexpr int SamePlaceArcMinutes = 120;
 
+const QString OneCountry = QStringLiteral("rowid = (SELECT rowid FROM Country WHERE Name = ? LIMIT 1)");
+
 int ArcMinutes(const QString &stored, const QString &hemisphere) {
   const auto angle = PersonFields::ReadDegrees(PersonFields::ShownDegrees(stored));
   const int size = angle ? angle->ArcMinutes() : 0;
@@ -98,6 +100,18 @@ void PlaceStore::SaveCountry(const QString &name, const QString &gmtDifference, 
   transaction.Commit();
 }
 
+RowsKept PlaceStore::KeepCity(qlonglong row) const {
+  return RowsKept::Copy(*db, QStringLiteral("City"), QStringLiteral("rowid = ?"), {row});
+}
+
+RowsKept PlaceStore::KeepCountry(const QString &name) const { return RowsKept::Copy(*db, QStringLiteral("Country"), OneCountry, {name}); }
+
+void PlaceStore::GoBackTo(const RowsKept &kept) {
+  Transaction transaction(*db);
+  kept.PutInPlace(*db);
+  transaction.Commit();
+}
+
 RowsKept PlaceStore::DeleteCity(qlonglong row, const QString &name) {
   Transaction transaction(*db);
   RowsKept kept = row != 0 ? RowsKept::Take(*db, QStringLiteral("City"), QStringLiteral("rowid = ?"), {row})
@@ -109,8 +123,7 @@ RowsKept PlaceStore::DeleteCity(qlonglong row, const QString &name) {
 
 RowsKept PlaceStore::DeleteCountry(const QString &name) {
   Transaction transaction(*db);
-  RowsKept kept =
-      RowsKept::Take(*db, QStringLiteral("Country"), QStringLiteral("rowid = (SELECT rowid FROM Country WHERE Name = ? LIMIT 1)"), {name});
+  RowsKept kept = RowsKept::Take(*db, QStringLiteral("Country"), OneCountry, {name});
   transaction.Commit();
   return kept;
 }

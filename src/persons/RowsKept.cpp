@@ -50,3 +50,8 @@ void RowsKept::PutBack(Database &db) const {
     db.Execute(QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)").arg(table, columns.join(u','), marks.join(u',')), row);
   }
 }
+
+void RowsKept::PutInPlace(Database &db) const {
+  for (const QVariantList &row : rows) db.Execute(QStringLiteral("DELETE FROM %1 WHERE rowid = ?").arg(table), {row.first()});
+  PutBack(db);
+}

@@ -23,6 +23,9 @@ class RowsKept {
   // Those whose text in the column is one of `values`, whatever the case of its letters.
   RowsKept Of(const QString &column, const QStringList &values) const;
 
+  // In their old places, from which the rows that stand there now are taken out. Throws StoreError.
+  void PutInPlace(Database &db) const;
+
   bool IsEmpty() const { return rows.empty(); }
 
  private:

@@ -30,7 +30,8 @@ UndoBar::UndoBar(QWidget *parent) : QFrame(parent) {
 void UndoBar::Offer(const QString &sentence, const QString &action, std::function<void()> undo) {
   lblDone->setText(sentence);
   cmdUndo->setText(action);
-  cmdUndo->setAccessibleName(action + QStringLiteral(": ") + sentence);
+  cmdUndo->setAccessibleName(QString(action).remove(u'&') + QStringLiteral(": ") + sentence);
+  cmdUndo->setToolTip(cmdUndo->accessibleName());
   cmdUndo->show();
   pending = std::move(undo);
   show();

@@ -266,7 +266,8 @@ QWidget *frmEditLongLat::MakeCountryTab() {
   grid->addWidget(cboCNTRY, 0, 1);
   grid->addWidget(MakeLabel(tr("GMT difference"), "caption", txtGMTDiff), 1, 0);
   grid->addWidget(txtGMTDiff, 1, 1);
-  grid->addWidget(MakeFault(txtGMTDiff), 2, 1);
+  QLabel *fault = MakeFault(txtGMTDiff);
+  grid->addWidget(fault, 2, 1);
   layout->addLayout(grid);
   layout->addStretch();
   auto *buttons = new QHBoxLayout;
@@ -282,6 +283,7 @@ QWidget *frmEditLongLat::MakeCountryTab() {
   buttons->addWidget(cmdCSave);
   layout->addLayout(buttons);
 
+  connect(cboCNTRY, &QComboBox::editTextChanged, fault, &QLabel::hide);
   connect(cboCNTRY, &QComboBox::activated, this, [this](int index) { Guard([&] { ShowCountry(cboCNTRY->itemText(index)); }); });
   connect(add, &QPushButton::clicked, this, &frmEditLongLat::AddCountry);
   connect(modify, &QPushButton::clicked, this, &frmEditLongLat::ChangeCountry);
@@ -466,6 +468,7 @@ void frmEditLongLat::SaveCity() {
   place.NOSO = optNorth->isChecked() ? QStringLiteral("N") : QStringLiteral("S");
   place.EaWe = optEast->isChecked() ? QStringLiteral("E") : QStringLiteral("W");
   place.GMTDIFF = PersonFields::DifferenceText(*difference);
+  const RowsKept before = store.KeepCity(cityRow);
   const std::optional<qlonglong> row = store.SaveCityOver(place, seenCity);
   if (!row) {
     seenCity = places->Load(cityRow);  // saving again is the user's word
@@ -477,6 +480,15 @@ void frmEditLongLat::SaveCity() {
   bar->Clear();
   PlacesAreChanged();
   if (const auto now = places->Load(*row)) ShowCity(*now);
+  if (before.IsEmpty()) return;
+  bar->Offer(tr("%1 is changed.").arg(place.City), tr("&Undo"), [this, before, row = *row] {
+    store.GoBackTo(before);
+    PlacesAreChanged();
+    if (const auto now = places->Load(row)) {
+      cmbCityList->ShowCity(now->City);
+      ShowCity(*now);
+    }
+  });
 }
 
 void frmEditLongLat::DeleteCity() {
@@ -493,7 +505,7 @@ void frmEditLongLat::DeleteCity() {
   AddCity();
   cmdSave->setEnabled(false);
   lblCityNote->clear();
-  bar->Offer(tr("%1 is deleted.").arg(name), tr("Undo"), [this, kept, shown] {
+  bar->Offer(tr("%1 is deleted.").arg(name), tr("&Undo"), [this, kept, shown] {
     store.Restore(kept);
     PlacesAreChanged();
     if (shown) {
@@ -530,17 +542,32 @@ void frmEditLongLat::SaveCountry() {
   const QString name = cboCNTRY->currentText().trimmed();
   const auto difference = PersonFields::ReadDifference(txtGMTDiff->text());
   auto *fault = findChild<QLabel *>(QStringLiteral("fault_txtGMTDiff"));
-  if (name.isEmpty() || !difference) {
+  const bool isRenamed = !countryName.isEmpty() && countryName.compare(name, Qt::CaseInsensitive) != 0;
+  const bool isTaken = isRenamed && store.HasCountry(name);
+  if (name.isEmpty() || isTaken || !difference) {
     fault->setText(name.isEmpty() ? tr("Please enter the name of the country.")
+                   : isTaken      ? tr("%1 is in the list already. Please write another name.").arg(name)
                                   : tr("Please write hours and minutes ahead of Greenwich with two digits of minutes, as +05.30."));
     fault->show();
     return;
   }
+  const bool isAdded = countryName.isEmpty();
+  const QString former = isAdded ? name : countryName;
+  const RowsKept before = store.KeepCountry(former);
   store.SaveCountry(name, PersonFields::DifferenceText(*difference), countryName);
   FillCountryLists();
   ShowCountry(name);
   bar->Clear();
   PlacesAreChanged();
+  if (before.IsEmpty()) return;
+  const QString done = isAdded ? tr("%1 was in the list already and is changed.") : tr("%1 is changed.");
+  bar->Offer(done.arg(name), tr("&Undo"), [this, before, former] {
+    store.GoBackTo(before);
+    FillCountryLists();
+    const int listed = cboCNTRY->findText(former, Qt::MatchFixedString);
+    ShowCountry(listed < 0 ? former : cboCNTRY->itemText(listed));  // in its own letters
+    PlacesAreChanged();
+  });
 }
 
 void frmEditLongLat::DeleteCountry() {
@@ -554,7 +581,7 @@ void frmEditLongLat::DeleteCountry() {
   AddCountry();
   cmdCSave->setEnabled(false);
   PlacesAreChanged();
-  bar->Offer(tr("%1 is deleted.").arg(name), tr("Undo"), [this, kept, name] {
+  bar->Offer(tr("%1 is deleted.").arg(name), tr("&Undo"), [this, kept, name] {
     store.Restore(kept);
     FillCountryLists();
     ShowCountry(name);

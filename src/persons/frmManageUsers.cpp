@@ -172,17 +172,19 @@ QWidget *frmManageUsers::MakeBirth() {
   grid->setHorizontalSpacing(Grid::Gap);
   grid->setVerticalSpacing(Grid::Gap);
   grid->setColumnStretch(1, 1);
-  const auto list = [](const char *name, const QString &what) {
+  const auto list = [](const char *name, const QString &what, const QString &tip) {
     auto *box = new QComboBox;
     box->setObjectName(QLatin1String(name));
     box->setAccessibleName(what);
+    box->setToolTip(tip);
     box->setMaxVisibleItems(16);
     return box;
   };
   lblDateFault = MakeFault("fault_cmbBirthDay");
-  cmbBirthDay = list("cmbBirthDay", tr("Day of birth"));
-  cmbBirthMonth = list("cmbBirthMonth", tr("Month of birth"));
-  cmbBirthYear = list("cmbBirthYear", tr("Year of birth"));
+  cmbBirthDay = list("cmbBirthDay", tr("Day of birth"), tr("Choose the day on which the person was born."));
+  cmbBirthMonth = list("cmbBirthMonth", tr("Month of birth"), tr("Choose the month in which the person was born."));
+  cmbBirthYear =
+      list("cmbBirthYear", tr("Year of birth"), tr("Choose the year in which the person was born, or type it with four digits."));
   cmbBirthYear->setEditable(true);
   cmbBirthYear->setInsertPolicy(QComboBox::NoInsert);
   cmbBirthYear->setMinimumContentsLength(5);
@@ -200,12 +202,14 @@ QWidget *frmManageUsers::MakeBirth() {
   txtPerBirthTime = new QLineEdit;
   txtPerBirthTime->setObjectName(QStringLiteral("txtPerBirthTime"));
   txtPerBirthTime->setAccessibleName(tr("Time of birth as hours.minutes on the 24-hour clock"));
-  txtPerBirthTime->setToolTip(tr("Hours and minutes, as 09.05 or 21.05."));
+  txtPerBirthTime->setToolTip(tr("Enter the time of birth by the clock of the place, as 09.05 or 21.05."));
   txtPerBirthTime->setPlaceholderText(tr("hh.mm"));
   optAM = new QRadioButton(tr("AM"));
   optPM = new QRadioButton(tr("PM"));
   optMale = new QRadioButton(tr("Male"));
   optFemale = new QRadioButton(tr("Female"));
+  optAM->setToolTip(tr("From midnight to noon. Choosing it rewrites the hour: 12.30 becomes 00.30."));
+  optPM->setToolTip(tr("From noon to midnight. Choosing it rewrites the hour: 01.30 becomes 13.30."));
   optAM->setObjectName(QStringLiteral("optAM"));
   optPM->setObjectName(QStringLiteral("optPM"));
   optMale->setObjectName(QStringLiteral("optMale"));
@@ -310,6 +314,7 @@ QWidget *frmManageUsers::MakeButtons() {
   QPushButton *save = MakeButton("flpSave", tr("&Save"), tr("Save this person with the residence."));
   QPushButton *close = MakeButton("flpClose", tr("&Close"), tr("Close, and show the day of this person."));
   save->setProperty("role", "primary");
+  save->setIcon(Skin::OnPrimary(QStringLiteral("flpSave")));
   for (QPushButton *button : {cityList, import, exporting}) layout->addWidget(button);
   layout->addStretch();
   layout->addWidget(save);
@@ -374,7 +379,7 @@ void frmManageUsers::FillPersons() {
 
 void frmManageUsers::ChoosePerson(const QString &name) {
   for (int row = 0; row < names->rowCount(); ++row) {
-    if (cmbPerson->itemText(row).compare(name.trimmed(), Qt::CaseInsensitive) != 0) continue;
+    if (!PersonStore::IsSameName(cmbPerson->itemText(row), name)) continue;
     Guard([&] { ChooseRow(row); });
     return;
   }
@@ -488,7 +493,7 @@ void frmManageUsers::Save() {
     bar->Tell(tr("Not saved yet: please mend the marked fields."));
     return;
   }
-  const bool isChosen = seen && chosen.trimmed().compare(record->Name, Qt::CaseInsensitive) == 0;
+  const bool isChosen = seen && PersonStore::IsSameName(chosen, record->Name);
   const bool isOther = !isChosen && store.Has(record->Name);
   const auto before = isOther ? store.Snapshot() : PersonStore::Removed();
   if (!store.SaveOver(*record, isOther ? store.Find(record->Name) : isChosen ? seen : std::nullopt)) {
@@ -498,7 +503,7 @@ void frmManageUsers::Save() {
   bar->Clear();
   FillPersons();
   if (isOther) {
-    bar->Offer(tr("%1 was in the list already and is changed.").arg(Short(record->Name)), tr("Undo"), [this, before, name = record->Name] {
+    bar->Offer(tr("%1 was in the list already and is changed.").arg(Short(record->Name)), tr("&Undo"), [this, before, name = record->Name] {
       store.GoBackTo(before, {name});
       FillPersons();
       saved = Form();
@@ -541,7 +546,7 @@ void frmManageUsers::FollowOthers() {
 
 void frmManageUsers::DeleteUser() {
   const QString name = cmbPerson->currentText().trimmed();
-  const QString stored = chosen.trimmed().compare(name, Qt::CaseInsensitive) == 0 ? chosen : name;
+  const QString stored = PersonStore::IsSameName(chosen, name) ? chosen : name;
   const QStringList form = Form();
   const bool wasUnsaved = HasUnsaved();
   const PersonStore::Removed removed = store.Delete(stored);
@@ -561,7 +566,7 @@ void frmManageUsers::DeleteUser() {
     bar->Tell(name.isEmpty() ? tr("There is nobody to delete.") : tr("%1 is not in the list; nothing was deleted.").arg(Short(name)));
     return;
   }
-  bar->Offer(tr("%1 is deleted.").arg(Short(name)), tr("Undo"), [this, removed, form, wasUnsaved, name] {
+  bar->Offer(tr("%1 is deleted.").arg(Short(name)), tr("&Undo"), [this, removed, form, wasUnsaved, name] {
     store.Restore(removed);
     FillPersons();
     if (const auto back = store.Find(removed.name)) ShowPerson(*back);
@@ -638,14 +643,14 @@ void frmManageUsers::ShowResidence() {
 // The sex of a saved person stays; and a name that is somebody else's must not be overwritten unawares.
 void frmManageUsers::ShowName() {
   const QString name = cmbPerson->currentText().trimmed();
-  const bool isChosen = !chosen.isEmpty() && name.compare(chosen.trimmed(), Qt::CaseInsensitive) == 0;
+  const bool isChosen = !chosen.isEmpty() && PersonStore::IsSameName(name, chosen);
   bool isStored = isChosen;
   if (!isChosen && !name.isEmpty()) Guard([&] { isStored = store.Has(name); });
   SetRole(*lblNameNote, "warn");
   Say(*lblNameNote, isStored && !isChosen ? tr("This name is in the list already: saving changes that person.") : QString());
   for (QRadioButton *option : {optMale, optFemale}) {
     option->setEnabled(!isStored);
-    option->setToolTip(isStored ? tr("The sex of a saved person stays as it was first saved.") : QString());
+    option->setToolTip(isStored ? tr("The sex of a saved person stays as it was first saved.") : tr("Choose the sex of the person."));
   }
 }
 
@@ -677,7 +682,7 @@ void frmManageUsers::ImportFrom(const QString &path) {
     if (!contents.faults.isEmpty()) sentence += tr(" Rows left out: %1.").arg(contents.faults.size());
     QStringList imported;
     for (const PersonRecord &person : contents.persons) imported << person.Name.trimmed();
-    bar->Offer(sentence, tr("Undo"), [this, before, form, imported] {
+    bar->Offer(sentence, tr("&Undo"), [this, before, form, imported] {
       store.GoBackTo(before, imported);
       FillPersons();
       if (const auto back = store.Find(chosen))
@@ -685,10 +690,11 @@ void frmManageUsers::ImportFrom(const QString &path) {
       else
         SetForm(form);
     });
-    if (contents.faults.isEmpty()) return;
-    QStringList shown = contents.faults.mid(0, MostFaultsShown);
-    if (contents.faults.size() > MostFaultsShown) shown << tr("and %1 more.").arg(contents.faults.size() - MostFaultsShown);
-    Notices::Show({Notice::Kind::Information, tr("Rows left out"), shown.join(u'\n')});
+    QStringList shown = contents.faults + contents.doubts;
+    if (shown.isEmpty()) return;
+    if (const auto more = shown.size() - MostFaultsShown; more > 0) shown = shown.mid(0, MostFaultsShown) << tr("and %1 more.").arg(more);
+    const QString title = contents.faults.isEmpty() ? tr("Rows to check") : tr("Rows left out");
+    Notices::Show({Notice::Kind::Information, title, shown.join(u'\n')});
   });
 }
 

@@ -154,6 +154,41 @@ TEST_F(EditLongLat, CountriesAreAddedChangedAndDeleted) {
   Click("cmdUndo");
   EXPECT_EQ(difference("New Utopia"), "+02.30");
   EXPECT_GE(Find<QComboBox>("cbocCountry")->findText("New Utopia"), 0) << "both lists are filled again";
+
+  // One that is in the list already is changed, and that can be taken back; a change to another's name is not let pass.
+  Click("cmdCAdd");
+  Set("cboCNTRY", "INDIA");
+  Set("txtGMTDiff", "1.00");
+  Click("cmdCSave");
+  EXPECT_EQ(difference("India"), "+01.00");
+  Click("cmdUndo");
+  EXPECT_EQ(difference("India"), "+05.30");
+  EXPECT_EQ(Text("cboCNTRY"), "India") << "with its own letters";
+  Click("cmdCModify");
+  Set("cboCNTRY", "Nepal");
+  Click("cmdCSave");
+  EXPECT_TRUE(Find<QLabel>("fault_txtGMTDiff")->text().contains("Nepal is in the list already"));
+  EXPECT_FALSE(Find<QLabel>("fault_txtGMTDiff")->isHidden());
+  EXPECT_EQ(difference("Nepal"), "+05.45");
+  EXPECT_EQ(difference("India"), "+05.30");
+}
+
+TEST_F(EditLongLat, AChangedPlaceCanBeTakenBackWhole) {
+  auto *city = Find<QComboBox>("cmbCityList");
+  city->lineEdit()->setFocus();
+  city->lineEdit()->selectAll();
+  QTest::keyClicks(city->lineEdit(), "agra");
+  const auto agra = [&] { return db->OpenRecordset("SELECT * FROM City WHERE Region = 'Uttar Pradesh' AND City LIKE 'Agra%'"); };
+  const QString zone = agra().Field("Zone").toString();
+  Click("cmdChange");
+  Set("cmbCityList", "Lima");
+  Set("cbocCountry", "Peru");
+  Click("cmdSave");
+  EXPECT_TRUE(agra().IsEmpty()) << "another place now";
+  Click("cmdUndo");
+  ASSERT_EQ(agra().RecordCount(), 1);
+  EXPECT_EQ(agra().Field("Zone").toString(), zone);
+  EXPECT_EQ(Text("cbocCountry"), "India");
 }
 
 TEST_F(EditLongLat, OptionsAndDetailsAreKept) {

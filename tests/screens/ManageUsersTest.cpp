@@ -8,6 +8,10 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <cmath>
+
+#include "content/Skin.h"
+#include "content/Theme.h"
 #include "persons/PersonFiles.h"
 #include "persons/frmManageUsers.h"
 #include "platform/Notices.h"
@@ -117,6 +121,19 @@ TEST_F(ManageUsers, AddsAPersonBornFarAwayWithTheClockOfThatDay) {
   EXPECT_EQ(closed[0][0].toString(), "Mary O'Neil");
 }
 
+// A name in part or a former name completes nothing in the field, and fills in the place all the same.
+TEST_F(ManageUsers, TheClockIsToldForWhateverNameFoundThePlace) {
+  FillNew("Ravi");
+  Type("cmbBirthCountry", "India");
+  for (const char *typed : {"Calcut", "calcutta", "Kolk"}) {
+    Type("cmbBirthCity", typed);
+    EXPECT_EQ(Text("txtLati"), "022:34") << typed;
+    EXPECT_TRUE(Find<QLabel>("lblClock_txtGMT")->text().contains("Kolkata showed +06.30")) << typed;
+  }
+  Type("cmbBirthCity", "Nowhere at all");
+  EXPECT_TRUE(Find<QLabel>("lblClock_txtGMT")->isHidden());
+}
+
 TEST_F(ManageUsers, HalvesOfTheDayRewriteTheTime) {
   struct Row {
     const char *typed, *half, *time;
@@ -138,7 +155,7 @@ TEST_F(ManageUsers, WhatCannotBeReadStaysAndIsNotSaved) {
     const char *field, *text, *fault;
   };
   const Row rows[] = {
-      {"txtPerBirthTime", "9.5", "fault"}, {"txtLati", "27.9", "fault"},   {"txtLati", "091:00", "fault"}, {"txtLongi", "181:00", "fault"},
+      {"txtPerBirthTime", "9.5", "fault"}, {"txtLati", "27.9", "fault"},   {"txtLati", "181:00", "fault"}, {"txtLongi", "181:00", "fault"},
       {"txtGMT", "5,30", "fault"},         {"txtResGMT", "soon", "fault"}, {"txtLat", "", "fault"},        {"txtLong", "000:60", "fault"}};
   const auto before = Store().All();
   for (const Row &row : rows) {
@@ -164,6 +181,62 @@ TEST_F(ManageUsers, WhatCannotBeReadStaysAndIsNotSaved) {
     EXPECT_EQ(notices.Seen()[0].text, "Please enter a name.");
   }
   EXPECT_EQ(Store().All(), before);
+}
+
+TEST_F(ManageUsers, ALatitudeBeyondThePoleIsDoubtedAndSaved) {
+  Type("txtLati", "090:00");
+  EXPECT_EQ(Fault("txtLati"), "");
+  Type("txtLati", "091:00");
+  EXPECT_TRUE(Fault("txtLati").contains("090:00"));
+  Click("flpSave");
+  EXPECT_EQ(Store().Find("Anvik Telvar")->birth.LatDeg, 91);
+  screen->ChoosePerson("Anvik Telvar");
+  EXPECT_FALSE(Fault("txtLati").isEmpty()) << "also when the person is shown again";
+  Type("txtLati", "027:09");
+  EXPECT_EQ(Fault("txtLati"), "");
+}
+
+TEST_F(ManageUsers, EveryFieldSaysWhatItIsFor) {
+  for (const QWidget *field : screen->findChildren<QWidget *>()) {
+    const bool isField = qobject_cast<const QComboBox *>(field) || qobject_cast<const QAbstractButton *>(field) ||
+                         (qobject_cast<const QLineEdit *>(field) && !qobject_cast<const QComboBox *>(field->parent()));
+    if (!isField || !field->isVisible() || field->objectName().isEmpty()) continue;
+    EXPECT_FALSE(field->toolTip().isEmpty()) << field->objectName();
+  }
+  EXPECT_EQ(Find<QComboBox>("cmbPerson")->toolTip(), "Enter the name of the person to generate the horoscope for.");
+}
+
+TEST_F(ManageUsers, ThePictureOfTheSaveButtonStandsOut) {
+  Skin::SetFolder(QStringLiteral(ORVANI_EPHE "/SKIN"));
+  const auto luminance = [](const QColor &colour) {
+    const auto part = [](double c) { return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
+    return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF()) + 0.0722 * part(colour.blueF());
+  };
+  const QImage picture = Skin::OnPrimary("flpSave").pixmap(24, 24).toImage();
+  int inked = 0;
+  for (int i = 0; i < 24 * 24; ++i) {
+    const QColor pixel = picture.pixelColor(i % 24, i / 24);
+    if (pixel.alpha() < 200) continue;
+    ++inked;
+    EXPECT_GT((luminance(pixel) + 0.05) / (luminance(Theme::Current().chart.maroon) + 0.05), 4.5) << pixel.name();
+  }
+  EXPECT_GT(inked, 20);
+}
+
+TEST_F(ManageUsers, TheListOfPlacesTellsThemApartAndGivesTheBareName) {
+  Click("flpAddUser");
+  Type("cmbBirthCountry", "United States of America");
+  auto *city = Find<QComboBox>("cmbBirthCity");
+  const auto same = city->model()->match(city->model()->index(0, 0), Qt::EditRole, "Springfield", -1, Qt::MatchFixedString);
+  ASSERT_GT(same.size(), 5);
+  EXPECT_EQ(same[0].data().toString(), "Springfield, Missouri");
+  for (const QModelIndex &row : same) {
+    city->setCurrentIndex(row.row());
+    emit city->activated(row.row());
+    EXPECT_EQ(Text("cmbBirthCity"), "Springfield");
+    EXPECT_NE(Text("txtLati"), "000:00");
+  }
+  EXPECT_NE(Text("txtLati"), "037:13") << "the last of them is not the first";
 }
 
 TEST_F(ManageUsers, DeletingIsNotAskedAndCanBeTakenBack) {
