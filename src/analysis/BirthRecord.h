@@ -24,3 +24,8 @@ struct BirthRecord {
 // A stored time difference (hours.minutes) as the chart takes it: decimal hours in the shortest text that reads back.
 // Throws ConversionError that names GMTDIFF for an empty or unreadable text.
 QString DecimalGmtDiff(const QString &stored);
+
+// Throw ConversionError with a sentence for a time that no clock shows and a place that no globe has, as a damaged store may hold them:
+// hours to 24, latitudes to 90 and longitudes to 180 degrees, time differences to 24 hours. Whether the date exists, the chart tells.
+void CheckPlace(const PlaceRecord &place);
+void CheckBirth(const BirthRecord &birth);

@@ -66,6 +66,7 @@ bool SelvaniDailyMod::LoadPerson(const QString &name) {
   found.MoveFirst();
   const BirthRecord record = ReadBirth(found);
   try {
+    CheckBirth(record);
     SetBirthPerson(record);
   } catch (const ConversionError &error) {
     throw ConversionError(QStringLiteral("The birth of '%1' cannot be calculated. %2").arg(record.Name.trimmed(), error.Sentence()));
@@ -108,7 +109,7 @@ std::optional<PlaceRecord> SelvaniDailyMod::StoredResidence(const QString &name)
   found.MoveFirst();
   PlaceRecord place = ReadPlace(found);
   try {
-    DecimalGmtDiff(place.GMTDIFF);
+    CheckPlace(place);
   } catch (const ConversionError &error) {
     throw StoreError(QStringLiteral("The residence of '%1' cannot be used. %2").arg(name, error.Sentence()));
   }

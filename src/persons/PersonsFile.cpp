@@ -122,6 +122,10 @@ QByteArray AsStoredText(const PersonRecord &record) {
   return QJsonDocument(odd).toJson(QJsonDocument::Compact);
 }
 
+// What no store and no file can keep becomes the sign for an unreadable character: half of a character that needs two, and the
+// character 0, at which the store engine ends a name when it compares two.
+QString Keepable(const QString &text) { return QString::fromUtf8(text.toUtf8()).replace(QChar(u'\0'), QChar(QChar::ReplacementCharacter)); }
+
 // Gives the person, or the fault's sentence.
 QString Assemble(const Cells &cells, PersonRecord &record) {
   const QString told = cells.value(AsStored.toLower()).trimmed();
@@ -136,7 +140,7 @@ QString Assemble(const Cells &cells, PersonRecord &record) {
     return counts;
   };
   const auto take = [&](const Field &field) {
-    const QString text = cells.value(QLatin1String(field.name).toString().toLower());
+    const QString text = Keepable(cells.value(QLatin1String(field.name).toString().toLower()));
     if (takeOdd(QLatin1String(field.name), text)) {
       const QVariant stored = record.odd.value(QLatin1String(field.name));
       field.set(record, field.isNumber ? QString::number(stored.toInt()) : stored.toString());

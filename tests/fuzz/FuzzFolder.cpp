@@ -36,6 +36,7 @@ FuzzFolder &FuzzFolder::Only() {
 }
 
 FuzzFolder::FuzzFolder() {
+  qputenv("XDG_CONFIG_HOME", dir.path().toUtf8() + "/settings0");
   const QString from = QStringLiteral(ORVANI_FUZZ_DATA "/EPHE");
   QDirIterator files(from, QDir::Files, QDirIterator::Subdirectories);
   while (files.hasNext()) {
@@ -59,7 +60,8 @@ void FuzzFolder::PutBack() {
     QDir().mkpath(QFileInfo(path).path());
     Write(path, file.value());
   }
-  qputenv("XDG_CONFIG_HOME", dir.filePath(QStringLiteral("settings%1").arg(++runs % 64)).toUtf8());
+  QDir(qEnvironmentVariable("XDG_CONFIG_HOME")).removeRecursively();
+  qputenv("XDG_CONFIG_HOME", dir.filePath(QStringLiteral("settings%1").arg(++runs)).toUtf8());
 }
 
 void FuzzFolder::Begin(const char *relative, const QByteArray &content) {

@@ -37,5 +37,5 @@ class FuzzFolder {
 
   QTemporaryDir dir;
   QHash<QString, QByteArray> sound;  // by path under EPHE
-  int runs = 0;                      // Qt remembers settings files by name
+  int runs = 0;                      // Qt remembers settings files by name, so each run has another
 };

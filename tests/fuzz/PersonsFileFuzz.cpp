@@ -40,6 +40,7 @@ void CheckSaved(const std::vector<PersonRecord> &persons) {
     });
     Require(isThere, "each person of the file is in the store");
   }
+  Require(store.SaveAll(persons).added == 0, "the same file again adds nobody");
   store.GoBackTo(before);
   Require(store.All().size() == former, "the import is undone");
 }

@@ -81,7 +81,7 @@ QVariant SomeValue(const QVariant &former, Random &random) {
                                                           static_cast<std::size_t>(text.size()))));
       return QString::fromUtf8(text);
     }
-    case 1: return former.toLongLong() + static_cast<int>(random() % 5) - 2;
+    case 1: return static_cast<qlonglong>(former.toULongLong() + random() % 5 - 2);  // past the end of the range it begins anew
     default: return OneOf(extremes, random);
   }
 }
@@ -103,7 +103,7 @@ void ChangeOneThing(const QSqlDatabase &store, Random &random) {
   const QString name = u'"' + query.record().fieldName(column) + u'"';
   const QVariant value = SomeValue(query.value(column), random);
   query.finish();
-  switch (random() % 24) {
+  switch (random() % 64) {
     case 0: query.exec(QStringLiteral("DELETE FROM %1 WHERE rowid = %2").arg(table, rowid.toString())); return;
     case 1: query.exec(QStringLiteral("INSERT INTO %1 SELECT * FROM %1 LIMIT 1").arg(table)); return;
     case 2: query.exec(QStringLiteral("DROP TABLE %1").arg(table)); return;
@@ -124,7 +124,7 @@ void ChangeOneThing(const QSqlDatabase &store, Random &random) {
 
 extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t *data, std::size_t size, std::size_t maxSize, unsigned seed) {
   Random random(seed + 1);
-  if (random() % 4 == 0) return LLVMFuzzerMutate(data, size, maxSize);
+  if (random() % 8 == 0) return LLVMFuzzerMutate(data, size, maxSize);
   static const QTemporaryDir folder;
   const QString path = folder.filePath(QStringLiteral("changed"));
   QFile::remove(path + QStringLiteral("-wal"));

@@ -3,6 +3,8 @@
 // Persons out to a file and in again.
 #include "PersonFiles.h"
 
+#include <algorithm>
+
 #include "persons/PersonsFile.h"
 #include "platform/Errors.h"
 
@@ -21,8 +23,13 @@ TEST_F(PersonFiles, TheSameFileBackGivesTheSameStore) {
   homeless.TCorrVal = "+01.00";
   homeless.Tcorrinde = 2;
   homeless.AMPM = 0;
-  store.SaveAll({homeless, Numbered("Twin", 1), Numbered("Twin", 2)});
+  // Beyond A to Z a name with a capital is another name, as it is for the store.
+  store.SaveAll(
+      {homeless, Numbered("Twin", 1), Numbered("Twin", 2), Numbered("\u00E9va", 3), Numbered("\u00C9va", 4), Numbered("\u00E9va", 5)});
   const auto before = store.All();
+  const auto capital = std::find_if(before.begin(), before.end(), [](const PersonRecord &one) { return one.Name == "\u00C9va"; });
+  ASSERT_NE(capital, before.end());
+  EXPECT_EQ(*capital, Numbered("\u00C9va", 4));
 
   for (const Format format : {Format::Csv, Format::Json}) {
     const QByteArray file = PersonsFile::Write(before, format);

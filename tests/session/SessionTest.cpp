@@ -112,6 +112,38 @@ TEST_F(SessionTest, LoadsByNameOrLeavesAllAsItWas) {
   EXPECT_FALSE(session.LoadLastPerson("Gone"));
 }
 
+TEST_F(SessionTest, RefusesWhatNoClockAndNoGlobeHas) {
+  AddPerson("Asha");
+  residences->Execute("INSERT INTO PERSON (Name, GMTDIFF, LatDeg, LatMT, LongDeg, LongMT) VALUES ('Asha', '5.30', 27, 9, 78, 0)");
+  const std::pair<const char *, const char *> rows[] = {{"Hour = 2147483647", "There is no time 2147483647:15;"},
+                                                        {"Hour = -1", "There is no time -1:15;"},
+                                                        {"Minutes = 99", "There is no time 2:99;"},
+                                                        {"LatDeg = 90", "There is no latitude 90:9;"},
+                                                        {"LongDeg = -181", "There is no longitude -181:0;"},
+                                                        {"LongMT = -2147483648", "There is no longitude 78:-2147483648;"},
+                                                        {"GMTDIFF = '99'", "There is no time zone (GMTDIFF) \"99\";"}};
+  for (const auto &[spoilt, sentence] : rows) {
+    const QString change = QStringLiteral("UPDATE PERSON SET %1 WHERE Name = 'Asha'").arg(QLatin1String(spoilt));
+    persons->Execute("SAVEPOINT sound");
+    persons->Execute(change);
+    try {
+      session.LoadPerson("Asha");
+      ADD_FAILURE() << spoilt;
+    } catch (const ConversionError &error) {
+      EXPECT_TRUE(error.Sentence().startsWith(QStringLiteral("The birth of 'Asha' cannot be calculated. ") + QLatin1String(sentence)))
+          << error.what();
+    }
+    persons->Execute("ROLLBACK TO sound");
+    if (change.contains(QLatin1String("Hour")) || change.contains(QLatin1String("Minutes"))) continue;
+    ASSERT_TRUE(session.LoadPerson("Asha"));
+    residences->Execute("SAVEPOINT sound");
+    residences->Execute(change);
+    EXPECT_THROW(session.BuildAnalysis(At(2020, 3, 1, 12, 0)), StoreError) << spoilt;
+    residences->Execute("ROLLBACK TO sound");
+  }
+  EXPECT_NO_THROW(session.BuildAnalysis(At(2020, 3, 1, 12, 0)));
+}
+
 TEST_F(SessionTest, AnalysesAtTheResidenceAsAWhole) {
   AddPerson("Asha");
   session.LoadPerson("Asha");
