@@ -14,14 +14,14 @@ ExactRules Agra() {
   return rules;
 }
 
-// Each round begins on another day, so that the library answers afresh.
+// Each round begins on a day that is not kept and lies beside none that is, so that everything is found afresh.
 void ExactDays(benchmark::State &state) {
   const ExactRules rules = Agra();
   const int count = static_cast<int>(state.range(0));
   QDate first(1980, 1, 1);
   for (auto _ : state) {
     benchmark::DoNotOptimize(ExactDay::Days(first, count, rules));
-    first = first.addDays(count);
+    first = first.addDays(count + 2);
   }
 }
 BENCHMARK(ExactDays)->Arg(1)->Arg(31)->Arg(366)->Unit(benchmark::kMillisecond);

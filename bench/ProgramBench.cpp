@@ -1,14 +1,38 @@
 // SPDX-FileCopyrightText: 2026 Brivanta Works
 // SPDX-License-Identifier: AGPL-3.0-or-later
-// Whole programs, and the main of the benchmarks.
+// Whole programs, from the start of the process to its end.
 #include <benchmark/benchmark.h>
 #include <sys/resource.h>
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include "OpenWindow.h"
+#include "Samples.h"
+
 namespace {
+
+// From the start of the process to the window that is painted and takes keys. This program plays the window's part.
+void StartToUsableWindow(benchmark::State &state) {
+  const QTemporaryDir home;  // of the settings: the wizard of the first start has been answered
+  FileUserSettings(home.filePath(QStringLiteral("orvani/orvani.conf"))).SetBoolValue(SettingKeys::DoneSetup, true);
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  environment.insert(QStringLiteral("XDG_CONFIG_HOME"), home.path());
+  Samples starts;
+  for (auto _ : state) {
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    starts.Time([&] {
+      process.start(QCoreApplication::applicationFilePath(), {OpenWindow::Option(), OpenWindow::DataFolder()});
+      process.waitForReadyRead();
+    });
+    if (!process.readAllStandardOutput().startsWith("open")) state.SkipWithError("the window did not open");
+    process.waitForFinished();
+  }
+  state.counters["median_ms"] = starts.Median();
+}
+BENCHMARK(StartToUsableWindow)->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(12);
 
 void DailyJsonAsAProcess(benchmark::State &state) {
   for (auto _ : state) {
@@ -34,12 +58,3 @@ void DailyPdfAsAProcess(benchmark::State &state) {
 BENCHMARK(DailyPdfAsAProcess)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 }  // namespace
-
-int main(int argc, char **argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  const QApplication app(argc, argv);
-  benchmark::Initialize(&argc, argv);
-  if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 2;
-  benchmark::RunSpecifiedBenchmarks();
-  return 0;
-}

@@ -33,7 +33,8 @@ QString ZoneNameOf(const clsPerson &person, const Ephemeris::Observer &place) {
   if (!person.GetDB() || person.PLOB().isEmpty()) return {};
   QString name;
   try {
-    Recordset rows = person.GetDB()->OpenRecordset(QStringLiteral("SELECT * FROM City WHERE City = ? AND Country = ?"),
+    // The plus keeps the engine from walking through all places of the country for one name.
+    Recordset rows = person.GetDB()->OpenRecordset(QStringLiteral("SELECT * FROM City WHERE City = ? AND +Country = ?"),
                                                    {person.PLOB(), person.Country()});
     double least = nearby;
     for (; !rows.AtEnd() && rows.HasColumn(QStringLiteral("Zone")); rows.MoveNext()) {

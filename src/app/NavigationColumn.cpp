@@ -58,6 +58,7 @@ NavigationColumn::NavigationColumn(const QList<Entry> &entries, QWidget *parent)
 void NavigationColumn::Mark(const char *name) {
   for (auto it = rows.cbegin(); it != rows.cend(); ++it) {
     const bool chosen = it.key() == QLatin1String(name);
+    if (it.value()->property("chosen").toBool() == chosen) continue;
     it.value()->setProperty("chosen", chosen);
     it.value()->style()->unpolish(it.value());
     it.value()->style()->polish(it.value());

@@ -3,7 +3,6 @@
 // orvani: the desktop program.
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QIcon>
 #include <QMessageBox>
 #include <algorithm>
 #include <cstdio>
@@ -12,14 +11,9 @@
 
 #include "Version.h"
 #include "app/Maker.h"
-#include "app/MessageBoxes.h"
 #include "app/Screens.h"
+#include "app/Startup.h"
 #include "app/StoreRescue.h"
-#include "app/frmMain.h"
-#include "app/frmSplash.h"
-#include "content/Skin.h"
-#include "content/Theme.h"
-#include "content/frmSettings.h"
 #include "engine/Ephemeris.h"
 #include "platform/Errors.h"
 
@@ -85,28 +79,11 @@ int main(int argc, char **argv) {
   try {
     Ephemeris::UseFilesBeside(QApplication::applicationDirPath());
     const AppPaths paths = AppPaths::Locate(parser.value(appDir));
-    Theme::Apply(app, paths.Ephe(QStringLiteral("SKIN/ctlDown.svg")));
-    Skin::SetFolder(paths.Ephe(QStringLiteral("SKIN")));
-    QApplication::setWindowIcon(Skin::Picture(QStringLiteral("mark")));
-    MessageBoxes boxes;
-    if (parser.isSet(screens)) return WriteScreens(parser.value(screens), paths, boxes);
+    Startup startup(paths);
+    if (parser.isSet(screens)) return WriteScreens(parser.value(screens), paths, startup.Boxes());
 
-    const std::unique_ptr<FileUserSettings> settingsFile = StoreRescue(boxes).OpenSettings();
-    if (!settingsFile) return 1;
-    FileUserSettings &settings = *settingsFile;
-    std::unique_ptr<frmMain> mainScreen;
-    bool ended = false;
-    frmSplash splash(paths, settings, ORVANI_VERSION_MAJOR, ORVANI_VERSION_MINOR,
-                     {{},
-                      [&] { frmSettings(settings, clsIni(paths)).exec(); },
-                      [&] {
-                        mainScreen = std::make_unique<frmMain>(paths, settings, boxes);
-                        mainScreen->Load();
-                        mainScreen->show();
-                      },
-                      [&] { ended = true; }});
-    splash.Load();
-    if (ended || !mainScreen) return 1;
+    std::unique_ptr<FileUserSettings> settings = StoreRescue(startup.Boxes()).OpenSettings();
+    if (!settings || !startup.Open(std::move(settings))) return 1;
     return QApplication::exec();
   } catch (const Error &error) {
     std::fprintf(stderr, "orvani: %s\n", error.what());

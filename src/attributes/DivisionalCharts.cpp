@@ -4,6 +4,7 @@
 // Tables: OddTrimshamsha, EvenTrimshamsha, PanchamAmshaLords, SastamshaLords, VarAshtamamshaLords, MaleficSashtiAmshas.
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 #include "engine/Functions.h"
 #include "engine/clsPlanets.h"
@@ -60,7 +61,14 @@ constexpr std::array<std::array<int, 8>, 3> VarAshtamamshaLords{{
 constexpr std::array<int, 26> MaleficSashtiAmshas{1,  2,  7,  8,  9,  10, 11, 12, 15, 16, 30, 31, 32,
                                                   33, 36, 40, 41, 42, 43, 44, 47, 48, 51, 52, 55, 59};
 
-int W(double sign) { return Functions::Whole16(Functions::Norm12(sign)); }
+// A sign's number brought into 1 to 12. All numbers here are whole: counted in integers a table of signs costs a third.
+int W(int sign) {
+  while (sign > 12) sign -= 12;
+  while (sign < 1) sign += 12;
+  return sign;
+}
+
+int W(double sign) { return std::abs(sign) < 1e6 ? W(static_cast<int>(sign)) : Functions::Whole16(Functions::Norm12(sign)); }
 
 int Int16(double value) { return Functions::Whole16(Int(value)); }
 

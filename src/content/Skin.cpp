@@ -2,9 +2,12 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "content/Skin.h"
 
+#include <QCoreApplication>
 #include <QFile>
+#include <QHash>
 #include <QIconEngine>
 #include <QPainter>
+#include <QPixmap>
 #include <QSvgRenderer>
 #include <memory>
 
@@ -55,10 +58,16 @@ class DrawingEngine : public QIconEngine {
     chosen.render(painter, room);
   }
   QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override {
+    const bool usual = mode == QIcon::Normal;
+    const auto drawn = usual ? pixmaps.constFind({size.width(), size.height()}) : pixmaps.cend();
+    if (drawn != pixmaps.cend()) return *drawn;
     QPixmap picture(size);
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
     paint(&painter, QRect(QPoint(), size), mode, state);
+    painter.end();
+    if (pixmaps.size() >= MostSizes) pixmaps.clear();
+    if (usual) pixmaps.insert({size.width(), size.height()}, picture);
     return picture;
   }
   QIconEngine *clone() const override { return new DrawingEngine(renderer, disabled); }
@@ -66,7 +75,10 @@ class DrawingEngine : public QIconEngine {
   QSize actualSize(const QSize &size, QIcon::Mode, QIcon::State) override { return size; }
 
  private:
+  static constexpr qsizetype MostSizes = 8;  // a window asks for one or two
+
   std::shared_ptr<QSvgRenderer> renderer, disabled;
+  QHash<std::pair<int, int>, QPixmap> pixmaps;  // by width and height, as last drawn
 };
 
 }  // namespace
@@ -76,10 +88,18 @@ namespace Skin {
 void SetFolder(const QString &folder) { Folder() = folder; }
 
 QIcon Picture(const QString &name, State state) {
+  // Pages ask for their pictures each time they are filled: a drawing is read once for each theme.
+  static QHash<QString, QIcon> pictures = [] {
+    qAddPostRoutine([] { pictures.clear(); });  // pixmaps end before the application does
+    return QHash<QString, QIcon>();
+  }();
+  const QString key = QStringLiteral("%1/%2/%3/%4").arg(Folder(), name).arg(static_cast<int>(state)).arg(Theme::Current().chart.ink.name());
+  const auto known = pictures.constFind(key);
+  if (known != pictures.cend()) return *known;
   const QByteArray drawing = Drawing(name, state);
   if (drawing.isEmpty()) return {};
   auto renderer = std::make_shared<QSvgRenderer>(drawing);
-  return renderer->isValid() ? QIcon(new DrawingEngine(std::move(renderer))) : QIcon();
+  return renderer->isValid() ? *pictures.insert(key, QIcon(new DrawingEngine(std::move(renderer)))) : QIcon();
 }
 
 QIcon OnPrimary(const QString &name) {

@@ -6,6 +6,8 @@
 #include <QFont>
 #include <QPalette>
 
+#include "content/pages/PageScroll.h"
+
 namespace {
 
 Theme Light() {
@@ -115,6 +117,8 @@ QString Theme::StyleSheet(const QString &arrow) const {
     QListView::item:selected, QTreeView::item:selected { background: @selection; color: @ink; }
     QHeaderView::section { background: @card; color: @muted; border: none; border-bottom: 2px solid @gold; padding: 6px 8px; }
     QScrollArea, QScrollArea > QWidget > QWidget { background: transparent; border: none; }
+    PageScroll { background: transparent; border: @ring solid transparent; border-radius: @ringround; }
+    PageScroll:focus { border-color: @saffron; }
     QScrollBar:vertical { background: transparent; width: 10px; margin: 0; }
     QScrollBar::handle:vertical { background: @line; border-radius: 5px; min-height: 30px; }
     QScrollBar::add-line, QScrollBar::sub-line { height: 0; width: 0; }
@@ -145,6 +149,9 @@ QString Theme::StyleSheet(const QString &arrow) const {
                                                    {"@badBack", badBack},     {"@bad", bad},
                                                    {"@selection", selection}, {"@tint", tint}};
   if (!arrow.isEmpty()) sheet += QStringLiteral("QComboBox::down-arrow { image: url(%1); width: 16px; height: 16px; }").arg(arrow);
+  // One sheet for all pages: a sheet of its own would have each page's widgets dressed twice.
+  sheet.replace(QLatin1String("@ringround"), QStringLiteral("%1px").arg(Grid::CardRadius + PageScroll::Ring));
+  sheet.replace(QLatin1String("@ring"), QStringLiteral("%1px").arg(PageScroll::Ring));
   for (const auto &[role, colour] : roles) sheet.replace(QLatin1String(role), colour.name());
   return sheet;
 }

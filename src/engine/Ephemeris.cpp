@@ -21,6 +21,14 @@ int ModeOf(Zodiac::Kind kind) {
   }
 }
 
+// The library forgets its last positions whenever a mode is set, even the one in force.
+void SetSiderealMode(int mode) {
+  static std::optional<int> inForce;
+  if (inForce == mode) return;
+  swe_set_sid_mode(mode, 0, 0);
+  inForce = mode;
+}
+
 }  // namespace
 
 double JulianDay(int year, int month, int day, double hour) { return swe_julday(year, month, day, hour, SE_GREG_CAL); }
@@ -42,7 +50,7 @@ std::array<double, 13> PlacidusCusps(double julianDay, double latitude, double l
 }
 
 double Ayanamsha(double julianDay, SiderealMode mode) {
-  swe_set_sid_mode(static_cast<int>(mode), 0, 0);
+  SetSiderealMode(static_cast<int>(mode));
   return Ayanamsha(julianDay);
 }
 
@@ -52,7 +60,7 @@ double ApparentLongitude(double universalDay, Body body, const Zodiac &zodiac) {
   std::array<double, 11> position{};
   std::array<char, 256> message{};
   const bool byLibrary = zodiac.kind != Zodiac::Kind::Tropical && zodiac.kind != Zodiac::Kind::Fixed;
-  if (byLibrary) swe_set_sid_mode(ModeOf(zodiac.kind), 0, 0);
+  if (byLibrary) SetSiderealMode(ModeOf(zodiac.kind));
   lastFlags =
       swe_calc_ut(universalDay, static_cast<int>(body), SEFLG_SWIEPH | (byLibrary ? SEFLG_SIDEREAL : 0), position.data(), message.data());
   return zodiac.kind == Zodiac::Kind::Fixed ? swe_degnorm(position[0] - zodiac.fixedDegrees) : position[0];

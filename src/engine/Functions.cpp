@@ -39,6 +39,11 @@ double Int(double value) { return std::floor(value); }
 double Fix(double value) { return std::trunc(value); }
 
 int Whole(double value) {
+  // Most values are whole already, and rounding one costs more than looking.
+  if (std::abs(value) < 1e9) {
+    const int whole = static_cast<int>(value);
+    if (whole == value) return whole;
+  }
   const double rounded = std::nearbyint(value);  // the default rounding mode: half to even
   if (!(rounded >= std::numeric_limits<int>::min() && rounded <= std::numeric_limits<int>::max()))
     throw ConversionError(QStringLiteral("The number %1 does not fit into a whole-number field.").arg(value));

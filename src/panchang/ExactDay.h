@@ -18,6 +18,8 @@ struct ExactRules {
   ExactZone zone;
   Ephemeris::DiscRule disc = Ephemeris::DiscRule::CentreNoRefraction;
   Ephemeris::Zodiac zodiac;
+
+  bool operator==(const ExactRules &) const = default;
 };
 
 // The panchang day from one sunrise to the next as the sky has it: every end by the ephemeris library's own positions. It stands

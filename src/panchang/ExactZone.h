@@ -23,6 +23,8 @@ class ExactZone {
   QString Name() const;                               // "Asia/Kolkata", empty for a fixed difference
   static QString OffsetText(int secondsEast);         // "UTC+5:30"
 
+  bool operator==(const ExactZone &) const = default;
+
  private:
   int fixedSeconds;
   QTimeZone zone;

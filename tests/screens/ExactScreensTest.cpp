@@ -9,7 +9,9 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <set>
 
+#include "analysis/ExactDayPage.h"
 #include "analysis/SelvaniDailyMod.h"
 #include "content/Languages.h"
 #include "content/SetFonts.h"
@@ -91,6 +93,34 @@ TEST_F(ExactScreens, ShowTheDayAndSaveIt) {
   path = folder.path();  // a folder is no file
   QTest::mouseClick(view.findChild<QPushButton *>("cmdExactPdf"), Qt::LeftButton);
   EXPECT_EQ(notices.Seen().size(), 1u);
+}
+
+// The tables grow and shrink with the day, and no row keeps the words or the colour of the day before.
+TEST_F(ExactScreens, GiveEachDayItsOwnRows) {
+  ExactDayView view;
+  std::set<size_t> counts;
+  for (const int day : {0, 1, 2, 3, 4, 5, 2, 0}) {
+    session.BuildAnalysis(QDateTime(QDate(2026, 11, 21).addDays(day), QTime(10 + day, 6), Qt::UTC));
+    Show(view, {862, 618});
+    const ExactDayPage page = FillExactDay(session.TodayChart());
+    counts.insert(page.limbs.size());
+    const auto table = [&](const std::vector<ExactDayPage::Row> &rows, const char *element, QString ExactDayPage::Row::*words) {
+      const auto label = [&](size_t row) { return view.findChild<QLabel *>(QLatin1String(element) + QString::number(row)); };
+      for (size_t row = 0; row < rows.size(); ++row) {
+        ASSERT_NE(label(row), nullptr) << element << row << " on day " << day;
+        EXPECT_EQ(label(row)->text(), rows[row].*words) << element << row << " on day " << day;
+        EXPECT_TRUE(label(row)->isVisible()) << element << row << " on day " << day;
+      }
+      EXPECT_EQ(label(rows.size()), nullptr) << element << " on day " << day;
+    };
+    table(page.limbs, "lblExactName", &ExactDayPage::Row::name);
+    table(page.periods, "lblExactPeriod", &ExactDayPage::Row::name);
+    table(page.events, "lblExactAt", &ExactDayPage::Row::ends);
+    for (size_t row = 0; row < page.limbs.size(); ++row)
+      EXPECT_EQ(view.findChild<QLabel *>("lblExactName" + QString::number(row))->property("role").toString(),
+                page.limbs[row].running ? "warn" : "value");
+  }
+  EXPECT_GT(counts.size(), 1u) << "the days of this test are to differ";
 }
 
 TEST_F(ExactScreens, WalkThroughTheMonths) {

@@ -56,7 +56,7 @@ QLabel *MakeLabel(QWidget *parent, const QString &name, const char *role, bool b
 }  // namespace
 
 CaptionTable::CaptionTable(std::vector<Column> tableColumns, int rowCount, int firstIndex, QWidget *parent)
-    : QWidget(parent), columns(std::move(tableColumns)), rows(rowCount), grid(new QGridLayout(this)) {
+    : QWidget(parent), columns(std::move(tableColumns)), first(firstIndex), grid(new QGridLayout(this)) {
   grid->setContentsMargins(Side, 0, Side, 0);
   grid->setHorizontalSpacing(WideGap);
   grid->setVerticalSpacing(0);
@@ -67,24 +67,44 @@ CaptionTable::CaptionTable(std::vector<Column> tableColumns, int rowCount, int f
     if (heads.back()) heads.back()->setContentsMargins(0, 2, 0, 6);
     if (heads.back()) grid->addWidget(heads.back(), 0, static_cast<int>(c));
   }
-  for (int row = 0; row < rows; ++row) {
-    for (size_t c = 0; c < columns.size(); ++c) {
-      const Column &column = columns[c];
-      const QString name = column.element + QString::number(firstIndex + row);
-      QWidget *cell = nullptr;
-      if (column.picture) {
-        cell = new SkinLabel(this);
-        cell->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
-        cell->setObjectName(name);
-      } else {
-        cell = MakeLabel(this, name, column.caption ? "caption" : "value", column.strong, column.alignment, !column.oneLine);
-      }
-      if (column.narrow) cell->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
-      grid->addWidget(cell, GridRow(row), static_cast<int>(c), column.pill ? Qt::AlignCenter : Qt::Alignment());
-      cells.push_back(cell);
+  while (rows < rowCount) AddRow();
+  FitRows();
+}
+
+void CaptionTable::AddRow() {
+  for (size_t c = 0; c < columns.size(); ++c) {
+    const Column &column = columns[c];
+    const QString name = column.element + QString::number(first + rows);
+    QWidget *cell = nullptr;
+    if (column.picture) {
+      cell = new SkinLabel(this);
+      cell->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+      cell->setObjectName(name);
+      if (compact) cell->hide();
+    } else {
+      cell = MakeLabel(this, name, column.caption ? "caption" : "value", column.strong, column.alignment, !column.oneLine);
     }
-    grid->setRowStretch(GridRow(row), 1);
+    if (column.narrow) cell->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
+    grid->addWidget(cell, GridRow(rows), static_cast<int>(c), column.pill ? Qt::AlignCenter : Qt::Alignment());
+    cells.push_back(cell);
   }
+  grid->setRowStretch(GridRow(rows), 1);
+  ++rows;
+}
+
+void CaptionTable::SetRows(int count) {
+  if (count == rows) return;
+  while (rows < count) AddRow();
+  while (rows > count) {
+    --rows;
+    for (size_t c = 0; c < columns.size(); ++c) {
+      delete cells.back();
+      cells.pop_back();
+    }
+    grid->setRowStretch(GridRow(rows), 0);
+    grid->setRowMinimumHeight(GridRow(rows), 0);
+  }
+  if (running >= rows) running = -1;
   FitRows();
 }
 
@@ -203,6 +223,6 @@ void CaptionTable::paintEvent(QPaintEvent *) {
       painter.drawRoundedRect(pill, pill.height() / 2, pill.height() / 2);
     }
   }
-  if (!hasHeads) return;
+  if (!hasHeads || rows == 0) return;
   painter.fillRect(QRect(Edge(), RowRect(0).top() - 2, width() - 2 * Edge(), 2), theme.chart.gold);
 }

@@ -34,6 +34,9 @@ class CaptionTable : public QWidget {
   // firstIndex: the row number of row 0 in the elements' names.
   CaptionTable(std::vector<Column> columns, int rows, int firstIndex = 0, QWidget *parent = nullptr);
 
+  // Takes rows away at the end, or adds empty ones there, whose fonts come with the next ApplyFonts.
+  void SetRows(int count);
+
   QLabel &Head(int column) const;
   QLabel &Cell(int row, int column) const;
   void SetPicture(int row, int column, const QString &skinName);
@@ -56,6 +59,7 @@ class CaptionTable : public QWidget {
   void resizeEvent(QResizeEvent *event) override;
 
  private:
+  void AddRow();
   QRect RowRect(int row) const;
   int GridRow(int row) const { return hasHeads ? row + 1 : row; }
   void FitRows();
@@ -63,7 +67,8 @@ class CaptionTable : public QWidget {
   int CompactSaving() const;
 
   std::vector<Column> columns;
-  int rows;
+  int rows = 0;
+  int first;  // row number of row 0
   bool hasHeads = false;
   int running = -1;
   bool roomy = false;

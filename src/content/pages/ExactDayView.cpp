@@ -142,33 +142,45 @@ void ExactDayView::resizeEvent(QResizeEvent *event) {
   ArrangeFacts();
 }
 
-// Every day has another number of limbs, so its tables are made anew.
-void ExactDayView::FillTables() {
-  for (CaptionTable *table : {limbs, periods, events}) delete table;
-  enum { Head, Name, Begins, Ends, Remark };
-  const auto rowsOf = [](const std::vector<ExactDayPage::Row> &rows) { return static_cast<int>(rows.size()); };
+void ExactDayView::MakeTables() {
   limbs = new CaptionTable({{.element = QStringLiteral("lblExactLimb"), .head = QStringLiteral("lblExactLimbHead"), .caption = true},
                             {.element = QStringLiteral("lblExactName"), .head = QStringLiteral("lblExactNameHead"), .strong = true},
                             {.element = QStringLiteral("lblExactBegins"), .head = QStringLiteral("lblExactBeginsHead"), .oneLine = true},
                             {.element = QStringLiteral("lblExactEnds"), .head = QStringLiteral("lblExactEndsHead"), .oneLine = true},
                             {.element = QStringLiteral("lblExactRemark"), .head = QStringLiteral("lblExactRemarkHead")}},
-                           rowsOf(page.limbs));
+                           0, 0, limbsCard);
   periods = new CaptionTable({{.element = QStringLiteral("lblExactPeriod"), .head = QStringLiteral("lblExactPeriodHead"), .strong = true},
                               {.element = QStringLiteral("lblExactFrom"), .head = QStringLiteral("lblExactFromHead"), .oneLine = true},
                               {.element = QStringLiteral("lblExactTo"), .head = QStringLiteral("lblExactToHead"), .oneLine = true},
                               {.element = QStringLiteral("lblExactVerdict"), .head = QStringLiteral("lblExactVerdictHead")}},
-                             rowsOf(page.periods));
+                             0, 0, periodsCard);
   events = new CaptionTable({{.element = QStringLiteral("lblExactEvent"), .head = QStringLiteral("lblExactEventHead"), .strong = true},
                              {.element = QStringLiteral("lblExactAt"), .head = QStringLiteral("lblExactAtHead")}},
-                            rowsOf(page.events));
+                            0, 0, limbsCard);
+  auto *left = static_cast<Card *>(limbsCard)->Body(), *right = static_cast<Card *>(periodsCard)->Body();
+  left->addWidget(limbs);
+  left->addWidget(events);
+  left->addStretch(1);
+  right->addWidget(periods);
+  right->addStretch(1);
+}
+
+// Every day has another number of limbs.
+void ExactDayView::FillTables() {
+  enum { Head, Name, Begins, Ends, Remark };
+  const auto rowsOf = [](const std::vector<ExactDayPage::Row> &rows) { return static_cast<int>(rows.size()); };
+  if (!limbs) MakeTables();
+  limbs->SetRows(rowsOf(page.limbs));
+  periods->SetRows(rowsOf(page.periods));
+  events->SetRows(rowsOf(page.events));
   const QString heads[] = {page.limbHead, page.nameHead, page.beginsHead, page.endsHead, page.remarkHead};
   for (int column = Head; column <= Remark; ++column) limbs->Head(column).setText(heads[column]);
-  limbs->SetRunningRow(-1);
+  periods->SetRunningRow(-1);
   for (int row = 0; row < rowsOf(page.limbs); ++row) {
     const ExactDayPage::Row &limb = page.limbs[static_cast<size_t>(row)];
     const QString cells[] = {limb.head, limb.name, limb.begins, limb.ends, limb.remark};
     for (int column = Head; column <= Remark; ++column) limbs->Cell(row, column).setText(cells[column]);
-    if (limb.running) limbs->SetTone(row, Name, CaptionTable::Tone::Warn);
+    limbs->SetTone(row, Name, limb.running ? CaptionTable::Tone::Warn : CaptionTable::Tone::Plain);
   }
   const QString periodHeads[] = {page.periodHead, page.beginsHead, page.endsHead, page.remarkHead};
   for (int column = 0; column < 4; ++column) periods->Head(column).setText(periodHeads[column]);
@@ -185,12 +197,6 @@ void ExactDayView::FillTables() {
     events->Cell(row, 0).setText(page.events[static_cast<size_t>(row)].name);
     events->Cell(row, 1).setText(page.events[static_cast<size_t>(row)].ends);
   }
-  auto *left = static_cast<Card *>(limbsCard)->Body(), *right = static_cast<Card *>(periodsCard)->Body();
-  left->insertWidget(0, limbs);
-  left->insertWidget(1, events);
-  right->insertWidget(0, periods);
-  if (left->count() == 2) left->addStretch(1);
-  if (right->count() == 1) right->addStretch(1);
 }
 
 void ExactDayView::SavePdf() {

@@ -38,6 +38,7 @@ class ExactDayView : public PageView {
 
   void FillFacts();
   void ArrangeFacts();
+  void MakeTables();
   void FillTables();
   void SavePdf();
 

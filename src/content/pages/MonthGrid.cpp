@@ -7,7 +7,11 @@
 #include <algorithm>
 #include <cmath>
 
-#include "content/pages/MonthPaint.h"
+namespace {
+
+constexpr int LeastWidth = 280;  // pixels
+
+}  // namespace
 
 MonthGrid::MonthGrid(QWidget *parent) : QWidget(parent) {
   setObjectName(QStringLiteral("picMonth"));
@@ -16,6 +20,7 @@ MonthGrid::MonthGrid(QWidget *parent) : QWidget(parent) {
 }
 
 void MonthGrid::SetPage(const MonthPage &monthPage) {
+  drawing.reset();
   page = monthPage;
   const auto today = std::find_if(page.cells.begin(), page.cells.end(), [](const MonthPage::Cell &cell) { return cell.isToday; });
   chosen = today == page.cells.end() ? 0 : static_cast<int>(today - page.cells.begin());
@@ -28,16 +33,24 @@ QDate MonthGrid::Chosen() const {
   return chosen >= 0 && chosen < static_cast<int>(page.cells.size()) ? page.cells[static_cast<size_t>(chosen)].date : QDate();
 }
 
-int MonthGrid::NeededHeight() const {
-  return static_cast<int>(std::ceil(MonthPaint(page, font(), const_cast<MonthGrid *>(this), std::max(width(), 280)).Height()));
+int MonthGrid::NeededHeight() const { return static_cast<int>(std::ceil(Drawing().Height())); }
+
+const MonthPaint &MonthGrid::Drawing() const {
+  const int wide = std::max(width(), LeastWidth);
+  if (!drawing || wide != drawingWidth || devicePixelRatioF() != drawingScale) {
+    drawing = std::make_unique<MonthPaint>(page, font(), const_cast<MonthGrid *>(this), wide);
+    drawingWidth = wide;
+    drawingScale = devicePixelRatioF();
+  }
+  return *drawing;
 }
 
 QSize MonthGrid::sizeHint() const { return {700, NeededHeight()}; }
-QSize MonthGrid::minimumSizeHint() const { return {280, 200}; }
+QSize MonthGrid::minimumSizeHint() const { return {LeastWidth, 200}; }
 
 void MonthGrid::paintEvent(QPaintEvent *) {
   QPainter painter(this);
-  MonthPaint(page, font(), this, width()).Paint(painter, rect(), PaintInks::Screen(), hasFocus() ? chosen : -1);
+  Drawing().Paint(painter, rect(), PaintInks::Screen(), hasFocus() ? chosen : -1);
 }
 
 void MonthGrid::resizeEvent(QResizeEvent *event) {
@@ -47,7 +60,9 @@ void MonthGrid::resizeEvent(QResizeEvent *event) {
 
 void MonthGrid::changeEvent(QEvent *event) {
   QWidget::changeEvent(event);
-  if (event->type() == QEvent::FontChange) setMinimumHeight(NeededHeight());
+  if (event->type() != QEvent::FontChange) return;
+  drawing.reset();
+  setMinimumHeight(NeededHeight());
 }
 
 void MonthGrid::Choose(int index) {
@@ -86,12 +101,12 @@ void MonthGrid::keyPressEvent(QKeyEvent *event) {
 }
 
 void MonthGrid::mousePressEvent(QMouseEvent *event) {
-  const int index = MonthPaint(page, font(), this, width()).CellAt(rect(), event->position());
+  const int index = Drawing().CellAt(rect(), event->position());
   if (index >= 0) Choose(index);
 }
 
 void MonthGrid::mouseDoubleClickEvent(QMouseEvent *event) {
-  if (MonthPaint(page, font(), this, width()).CellAt(rect(), event->position()) >= 0) Open();
+  if (Drawing().CellAt(rect(), event->position()) >= 0) Open();
 }
 
 void MonthGrid::focusInEvent(QFocusEvent *event) {

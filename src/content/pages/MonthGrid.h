@@ -3,8 +3,10 @@
 #pragma once
 
 #include <QWidget>
+#include <memory>
 
 #include "analysis/MonthPage.h"
+#include "content/pages/MonthPaint.h"
 
 // The month on the screen: arrow keys and clicks choose a day, Enter or a double click asks to open it.
 class MonthGrid : public QWidget {
@@ -37,7 +39,12 @@ class MonthGrid : public QWidget {
   void Choose(int index);
   void Open();
   int NeededHeight() const;
+  // Wrapping the words of a month takes longer than painting them, so their heights are kept for a width and a font.
+  const MonthPaint &Drawing() const;
 
   MonthPage page;
+  mutable std::unique_ptr<MonthPaint> drawing;
+  mutable int drawingWidth = 0;
+  mutable double drawingScale = 0;
   int chosen = -1;
 };

@@ -57,7 +57,10 @@ double MonthPaint::CellNeed(const MonthPage::Cell &cell) const {
 }
 
 double MonthPaint::WeekNeed(int week) const {
-  double need = 4 * text;
+  weekNeeds.resize(static_cast<size_t>(page.Weeks()), 0);
+  double &need = weekNeeds.at(static_cast<size_t>(week));
+  if (need > 0) return need;
+  need = 4 * text;
   for (int column = 0; column < Columns; ++column) {
     const int index = week * Columns + column - page.firstColumn;
     if (index >= 0 && index < static_cast<int>(page.cells.size())) need = std::max(need, CellNeed(page.cells[static_cast<size_t>(index)]));

@@ -5,6 +5,7 @@
 #include <QFont>
 #include <QRectF>
 #include <array>
+#include <vector>
 
 #include "analysis/MonthPage.h"
 #include "content/pages/PaintInks.h"
@@ -41,5 +42,6 @@ class MonthPaint {
   QFont font, bold, date;
   double text = 0;
   double columnWidth;
+  mutable std::vector<double> weekNeeds;  // by week, once asked
   QPaintDevice *device;
 };

@@ -6,17 +6,12 @@
 #include <QEvent>
 #include <QVBoxLayout>
 
-#include "content/Theme.h"
-
 PageScroll::PageScroll(QWidget *content, QWidget *parent) : QScrollArea(parent) {
   setWidgetResizable(true);
   setWidget(content);
   content->setAutoFillBackground(false);
   viewport()->setAutoFillBackground(false);
   setFocusPolicy(Qt::TabFocus);
-  setStyleSheet(QStringLiteral("PageScroll { background: transparent; border: %3px solid transparent; border-radius: %1px; }"
-                               "PageScroll:focus { border-color: %2; }")
-                    .arg(QString::number(Grid::CardRadius + Ring), Theme::Current().chart.saffron.name(), QString::number(Ring)));
 }
 
 PageScroll *PageScroll::Fill(QWidget *page, QWidget *content) {

@@ -33,6 +33,7 @@ RichTextView::RichTextView(QWidget *parent) : PageView(parent), area(new QTextEd
   area->setObjectName(QStringLiteral("rtf"));
   area->setAccessibleName(tr("Text of the page"));
   area->setReadOnly(true);
+  area->setUndoRedoEnabled(false);  // a page that is only read needs no memory of its fillings
   area->setTextInteractionFlags(Qt::TextSelectableByMouse);
   area->setFocusPolicy(Qt::StrongFocus);
   area->setTabChangesFocus(true);
