@@ -4,6 +4,9 @@
 
 #include <QString>
 #include <array>
+#include <optional>
+
+#include "analysis/ExactTimes.h"
 
 class clsPlanets;
 
@@ -11,9 +14,12 @@ class clsPlanets;
 struct ChogadiyaPage {
   struct Row {
     double startClock = 0;
-    double span = 0;  // clock arithmetic
-    int type = 0;     // 1 Udveg to 7 Rog
+    double span = 0;              // clock arithmetic
+    int type = 0;                 // 1 Udveg to 7 Rog
+    double begins = 0, ends = 0;  // on the axis of the exact day
   };
+
+  std::optional<ExactFrame> exact;  // none by the house rule
 
   std::array<Row, 16> rows;
   std::array<QString, 16> lblChogTime, lblChogName;

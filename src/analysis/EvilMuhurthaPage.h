@@ -4,6 +4,9 @@
 
 #include <QString>
 #include <array>
+#include <optional>
+
+#include "analysis/ExactTimes.h"
 
 class clsPlanets;
 
@@ -11,9 +14,12 @@ class clsPlanets;
 struct EvilMuhurthaPage {
   struct Row {
     double startClock = 0;
-    double length = 0;  // clock arithmetic
+    double length = 0;            // clock arithmetic
+    double begins = 0, ends = 0;  // on the axis of the exact day
     QString head, start, end;
   };
+
+  std::optional<ExactFrame> exact;  // none by the house rule
 
   std::array<Row, 4> rows;
   QString lblKulikadiDesc, lblMuhurthaName, lblStartTime, lblEndTime;

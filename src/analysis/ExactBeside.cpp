@@ -26,7 +26,7 @@ double Apart(double clock, double moment, const ExactZone &zone) {
 ExactBesidePage ExactBeside(const clsPlanets &todayChart) {
   const ExactRules rules = ExactRulesOf(todayChart);
   const ExactWords words(todayChart, rules);
-  const ExactDay day = ExactDay::Of(todayChart.clsPerson().GetBirthDate().date(), rules);
+  const ExactDay day = ExactDay::Of(todayChart.clsPerson().GetBirthDate().date(), rules, ExactDay::Extent::Sun);
 
   const auto event = [&](const SkyEvent &exact, double clock, const QString &reason) -> QString {
     if (!exact.Happens()) return reason;

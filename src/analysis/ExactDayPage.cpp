@@ -6,20 +6,15 @@
 #include <algorithm>
 #include <functional>
 
-#include "analysis/ExactSettings.h"
-#include "analysis/ExactWords.h"
 #include "engine/clsPlanets.h"
 
 namespace {
 
 using Tone = ExactDayPage::Tone;
 
-constexpr double DayMinutes = 24 * 60;
-
 class Filler {
  public:
-  Filler(const clsPlanets &chart, const ExactRules &exactRules)
-      : rules(exactRules), words(chart, exactRules), moment(UniversalMoment(chart, exactRules)), day(ExactDay::At(moment, exactRules)) {}
+  explicit Filler(const clsPlanets &chart) : times(chart, ExactDay::Extent::Whole) {}
 
   ExactDayPage Fill() {
     FillFrame();
@@ -32,7 +27,7 @@ class Filler {
   }
 
  private:
-  double At(double universalDay) const { return (universalDay - day.begins) * DayMinutes; }
+  double At(double universalDay) const { return times.At(universalDay); }
   bool IsNow(double begins, double ends) const { return moment >= begins && moment < ends; }
   QString Time(double universalDay) const { return words.Time(universalDay, day.date); }
   QString Exact(double universalDay) const { return words.TimeToSecond(universalDay, day.date); }
@@ -45,23 +40,16 @@ class Filler {
 
   void FillFrame() {
     page.title = QLocale::c().toString(day.date, QStringLiteral("dddd, MMMM d, yyyy"));
-    page.minutes = At(day.ends);
-    page.dayEnds = day.sunset.Happens() ? At(day.sunset.at) : day.sunset.state == SkyEvent::State::StaysAbove ? page.minutes : 0;
+    const ExactFrame frame = times.Frame();
+    page.minutes = frame.minutes;
+    page.dayEnds = frame.dayEnds;
+    page.now = frame.now;
+    page.hours = frame.hours;
+    if (page.now >= 0) page.nowCaption = QLocale::c().toString(times.rules.zone.LocalOf(moment), QStringLiteral("H:mm"));
     const bool bySun = day.sunrise.Happens() && day.nextSunrise.Happens();
     page.lblExactDesc = QStringLiteral("%1, %2").arg(
         words.Word(bySun ? "FromTo" : "FromToMean").arg(Time(day.begins), words.Time(day.ends, day.date.addDays(1))),
         words.PlaceAndRules(day.begins));
-    if (IsNow(day.begins, day.ends)) {
-      page.now = At(moment);
-      page.nowCaption = QLocale::c().toString(rules.zone.LocalOf(moment), QStringLiteral("H:mm"));
-    }
-    // The clock's full hours; where it is put on or back, its hours jump and the drawing does not.
-    const QDateTime first = rules.zone.LocalOf(day.begins);
-    const double toFullHour = 60 - first.time().minute() - first.time().second() / 60.0;
-    for (double at = toFullHour; at < page.minutes; at += 60) {
-      const QTime shown = rules.zone.LocalOf(day.begins + at / DayMinutes + 1 / 86400.0).time();
-      page.hours.push_back({at, shown.hour(), QStringLiteral("%1:%2").arg(shown.hour()).arg(shown.minute(), 2, 10, QLatin1Char('0'))});
-    }
     page.limbHead = words.Word("LimbHead");
     page.nameHead = words.Word("NameHead");
     page.periodHead = words.Word("PeriodHead");
@@ -109,10 +97,14 @@ class Filler {
         page.periods.push_back({{}, name, Exact(period.begins), Exact(period.ends), remark, tone, IsNow(period.begins, period.ends)});
       }
       SetLevels(lane);
+      if (lane.bars.empty()) AddNote(lane, day.begins, day.ends, words.Word("None"));
       page.lanes.push_back(std::move(lane));
     }
     if (!day.sunrise.Happens() || !day.sunset.Happens())
-      page.periods.insert(page.periods.begin(), {{}, words.Word("RahuKaal"), {}, {}, words.Word("NoDivisions"), Tone::Plain, false});
+      for (const Period::Kind kind : {Period::Kind::Abhijit, Period::Kind::Gulika, Period::Kind::Yamaghanta, Period::Kind::RahuKaal})
+        page.periods.insert(
+            page.periods.begin(),
+            {{}, words.PeriodName(kind), words.Word("None"), words.Word("None"), words.PolarState(day), Tone::Plain, false});
   }
 
   // Each bar goes onto the first level that is free where it begins.
@@ -142,8 +134,21 @@ class Filler {
     for (const DayPart &part : day.horas)
       AddBar(horas, part.begins, part.ends, {words.HoraLord(part.type), words.HoraLordShort(part.type)},
              QStringLiteral("%1 %2").arg(words.HoraLord(part.type), words.Range(part.begins, part.ends, day.date)), Tone::Plain);
+    for (ExactDayPage::Lane *lane : {&chogadiyas, &horas}) AddMissingHalves(*lane);
     page.lanes.push_back(std::move(chogadiyas));
     page.lanes.push_back(std::move(horas));
+  }
+
+  // Says of a daylight or a night that is not there why it has no parts.
+  void AddMissingHalves(ExactDayPage::Lane &lane) {
+    const QString noDaylight = words.NoDaylight(day), noNight = words.NoNight(day);
+    if (!day.sunset.Happens()) return AddNote(lane, day.begins, day.ends, noDaylight);
+    if (!noDaylight.isEmpty()) AddNote(lane, day.begins, day.sunset.at, noDaylight);
+    if (!noNight.isEmpty()) AddNote(lane, day.sunset.at, day.ends, noNight);
+  }
+
+  void AddNote(ExactDayPage::Lane &lane, double begins, double ends, const QString &note) {
+    AddBar(lane, begins, ends, {note}, QStringLiteral("%1 %2").arg(lane.head, note), Tone::Note);
   }
 
   // Where the Moon is above the horizon: from its rise, or from the day's beginning, to its set.
@@ -167,6 +172,7 @@ class Filler {
       if (rise.Happens()) add(rise.at, day.ends);
       if (rise.state == State::StaysAbove) add(day.begins, day.ends);
     }
+    if (lane.bars.empty()) AddNote(lane, day.begins, day.ends, words.Moonrise(day));
     page.lanes.push_back(std::move(lane));
 
     page.events = {{{}, words.General("Sunrise"), {}, words.Sunrise(day), {}, Tone::Plain, false},
@@ -196,16 +202,13 @@ class Filler {
     };
   }
 
-  const ExactRules &rules;
-  ExactWords words;
-  double moment;
-  ExactDay day;
+  const ExactTimes times;
+  const ExactWords &words = times.words;
+  const ExactDay &day = times.day;
+  const double moment = times.moment;
   ExactDayPage page;
 };
 
 }  // namespace
 
-ExactDayPage FillExactDay(const clsPlanets &todayChart) {
-  const ExactRules rules = ExactRulesOf(todayChart);
-  return Filler(todayChart, rules).Fill();
-}
+ExactDayPage FillExactDay(const clsPlanets &todayChart) { return Filler(todayChart).Fill(); }

@@ -6,12 +6,14 @@
 #include <QStringList>
 #include <vector>
 
+#include "analysis/ExactTimes.h"
+
 class clsPlanets;
 
 // The exact day as a drawing of bars from sunrise to sunrise and as tables of times. Places in the drawing are minutes from the
 // day's beginning.
 struct ExactDayPage {
-  enum class Tone { Plain, Light, Good, Bad };
+  enum class Tone { Plain, Light, Good, Bad, Note };  // a note stands where nothing is, and says so
 
   struct Bar {
     double begins = 0, ends = 0;
@@ -25,11 +27,6 @@ struct ExactDayPage {
     std::vector<Bar> bars;
     int levels = 1;
     bool apart = false;  // a little space before it
-  };
-  struct Hour {
-    double at = 0;
-    int hour = 0;  // of the clock
-    QString caption;
   };
   struct Fact {
     const char *element;
@@ -48,7 +45,7 @@ struct ExactDayPage {
   double now = -1;       // the analysis moment; negative where it lies outside
   QString nowCaption;
   std::vector<Lane> lanes;
-  std::vector<Hour> hours;
+  std::vector<ExactFrame::Hour> hours;
   std::vector<Fact> facts;
   std::vector<Row> limbs;    // tithi, nakshatra, yoga, karana
   std::vector<Row> periods;  // bad, then good ones

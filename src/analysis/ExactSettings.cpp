@@ -90,6 +90,11 @@ ExactRules ExactRulesOf(const clsPlanets &chart) {
   return rules;
 }
 
+bool ExactDivisionsChosen(const clsPlanets &chart) {
+  constexpr int exact = 2;
+  return chart.Settings().IntValue(SettingKeys::DayDivisions) == exact;
+}
+
 double UniversalMoment(const clsPlanets &chart, const ExactRules &rules) {
   return rules.zone.UniversalOf(chart.clsPerson().GetBirthDate());
 }

@@ -12,5 +12,8 @@ class clsPlanets;
 // Lahiri, Raman, Krishnamurti and no ayanamsha are the library's; any other one is the chart's own, held through the day.
 ExactRules ExactRulesOf(const clsPlanets &chart);
 
+// Whether the settings ask for exact times of day in place of the house rule's.
+bool ExactDivisionsChosen(const clsPlanets &chart);
+
 // The chart's moment as a Julian day in universal time.
 double UniversalMoment(const clsPlanets &chart, const ExactRules &rules);

@@ -110,10 +110,12 @@ QString ExactWords::Range(double begins, double ends, const QDate &date) const {
   return Word("Range").arg(Time(begins, date), Time(ends, date));
 }
 
+QString ExactWords::RangeAlone(double begins, double ends) const { return TimeAlone(begins) + QLatin1Char('-') + TimeAlone(ends); }
+
 // none: the key of "there is none"; the reason is added to it where there is one.
-QString ExactWords::Event(const SkyEvent &event, const QDate &date, const char *none) const {
+QString ExactWords::Event(const SkyEvent &event, const QDate &date, const char *none, Precision precision) const {
   switch (event.state) {
-    case SkyEvent::State::Happens: return TimeToSecond(event.at, date);
+    case SkyEvent::State::Happens: return Clock(event.at, date, precision);
     case SkyEvent::State::StaysBelow: return Word((QByteArray(none) + "Below").constData());
     case SkyEvent::State::StaysAbove: return Word((QByteArray(none) + "Above").constData());
     default: return Word(none);
@@ -125,15 +127,46 @@ QString ExactWords::Sunset(const ExactDay &day) const { return Event(day.sunset,
 QString ExactWords::Moonrise(const ExactDay &day) const { return Event(day.moonrise, day.date, "NoMoonrise"); }
 QString ExactWords::Moonset(const ExactDay &day) const { return Event(day.moonset, day.date, "NoMoonset"); }
 
+QString ExactWords::SunriseToMinute(const ExactDay &day, const QDate &date) const {
+  return Event(day.sunrise, date, "NoSunrise", Precision::Minute);
+}
+
+QString ExactWords::SunsetToMinute(const ExactDay &day, const QDate &date) const {
+  return Event(day.sunset, date, "NoSunset", Precision::Minute);
+}
+
+QString ExactWords::StateOf(const SkyEvent &first, const SkyEvent &second) const {
+  for (const SkyEvent &event : {first, second})
+    if (!event.Happens()) return Word(event.state == SkyEvent::State::StaysAbove ? "MidnightSun" : "PolarNight");
+  return {};
+}
+
+QString ExactWords::None(const QString &state) const { return state.isEmpty() ? QString() : Word("NoneBecause").arg(state); }
+
+QString ExactWords::PolarState(const ExactDay &day) const { return StateOf(day.sunrise, day.sunset); }
+QString ExactWords::NoDaylight(const ExactDay &day) const { return None(PolarState(day)); }
+QString ExactWords::NoNight(const ExactDay &day) const { return None(StateOf(day.sunset, day.nextSunrise)); }
+
+QString ExactWords::SunriseRule() const {
+  return Word(rules.disc == Ephemeris::DiscRule::CentreNoRefraction ? "DiscCentreRule" : "UpperLimbRule");
+}
+
+QString ExactWords::Brief() const {
+  return Word("ExactBrief").arg(Word(rules.disc == Ephemeris::DiscRule::CentreNoRefraction ? "DiscCentreBrief" : "UpperLimbBrief"));
+}
+
+QString ExactWords::Offset(double moment) const {
+  const QString clock = ExactZone::OffsetText(rules.zone.SecondsEastAt(moment));
+  return rules.zone.HasDaylightSaving(moment) ? QStringLiteral("%1 (%2)").arg(clock, Word("DaylightSaving")) : clock;
+}
+
 QString ExactWords::PlaceAndRules(double moment) const {
-  QString clock = ExactZone::OffsetText(rules.zone.SecondsEastAt(moment));
-  if (rules.zone.HasDaylightSaving(moment)) clock += QStringLiteral(" (%1)").arg(Word("DaylightSaving"));
   const QString latitude = DegreesText(rules.place.latitude, rules.place.latitude < 0 ? QStringLiteral("S") : QStringLiteral("N"));
   const QString longitude = DegreesText(rules.place.longitude, rules.place.longitude < 0 ? QStringLiteral("W") : QStringLiteral("E"));
   // The library's Lahiri is not the polynomial of that name in the charts, so it goes by its plain name.
   const QString ayanamsha = rules.zodiac.kind == Ephemeris::Zodiac::Kind::Lahiri ? Word("Lahiri") : words.AyanamshName();
   return QStringLiteral("%1 %2 %3, %4. %5, %6.")
-      .arg(words.clsPerson().PLOB(), latitude, longitude, clock,
+      .arg(words.clsPerson().PLOB(), latitude, longitude, Offset(moment),
            Word(rules.disc == Ephemeris::DiscRule::CentreNoRefraction ? "DiscCentre" : "UpperLimb"), ayanamsha)
       .trimmed();
 }

@@ -42,6 +42,7 @@ class ExactWords {
   QString TimeToSecond(double moment, const QDate &date) const;  // "6:46:02"
   QString Range(double begins, double ends, const QDate &date) const;
   QString TimeAlone(double moment) const;                     // "4:51", where a scale tells the date
+  QString RangeAlone(double begins, double ends) const;       // "4:51-6:10"
   QString TimeShort(double moment, const QDate &date) const;  // "4:51+" for the next date, for narrow places
 
   // The time, or the named reason why there is none.
@@ -50,6 +51,17 @@ class ExactWords {
   QString Moonrise(const ExactDay &day) const;
   QString Moonset(const ExactDay &day) const;
 
+  // The same to the minute, for narrow places.
+  QString SunriseToMinute(const ExactDay &day, const QDate &date) const;
+  QString SunsetToMinute(const ExactDay &day, const QDate &date) const;
+  QString PolarState(const ExactDay &day) const;  // "polar night" where there is no daylight from sunrise to sunset
+  // "none: polar night", why the daylight or the night has no parts; empty where it has.
+  QString NoDaylight(const ExactDay &day) const;
+  QString NoNight(const ExactDay &day) const;
+
+  QString SunriseRule() const;          // "the Sun's centre on the horizon, without refraction"
+  QString Brief() const;                // "exact, sunrise of the Sun's centre"
+  QString Offset(double moment) const;  // "UTC-4:00 (daylight saving)"
   // "Agra 27°09'N 78°00'E, UTC+5:30. Disc centre, Lahiri."
   QString PlaceAndRules(double moment) const;
 
@@ -57,7 +69,9 @@ class ExactWords {
   enum class Precision { Minute, Second };
   QString Clock(double moment, const QDate &date, Precision precision) const;
   QString Month(int number) const;  // 1 Chaitra
-  QString Event(const SkyEvent &event, const QDate &date, const char *none) const;
+  QString Event(const SkyEvent &event, const QDate &date, const char *none, Precision precision = Precision::Second) const;
+  QString StateOf(const SkyEvent &first, const SkyEvent &second) const;
+  QString None(const QString &state) const;
 
   const clsPlanets &words;
   const ExactRules &rules;

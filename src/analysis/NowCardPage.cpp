@@ -6,6 +6,8 @@
 #include <cmath>
 #include <functional>
 
+#include "analysis/ExactSettings.h"
+#include "analysis/ExactTimes.h"
 #include "analysis/TimeText.h"
 #include "engine/Functions.h"
 #include "engine/clsPlanets.h"
@@ -41,6 +43,18 @@ QString ClockText(const QDateTime &moment, const QDateTime &now) {
   return QLocale::c().toString(moment, moment.date() == now.date() ? QStringLiteral("H:mm") : QStringLiteral("ddd H:mm"));
 }
 
+QString RahuKaalText(const clsPlanets &chart) {
+  if (ExactDivisionsChosen(chart)) {
+    const ExactTimes times(chart);
+    for (const Period &period : times.day.periods)
+      if (period.kind == Period::Kind::RahuKaal) return times.words.RangeAlone(period.begins, period.ends);
+    return times.words.NoDaylight(times.day);
+  }
+  return TimeRangeText(chart.GetRahuKaalStartToday(), chart.GetRahuKaalSpanToday())
+      .remove(QStringLiteral(" AM"))
+      .remove(QStringLiteral(" PM"));
+}
+
 }  // namespace
 
 QDateTime EndOfTithi(const clsPlanets &chart) {
@@ -69,11 +83,10 @@ NowCardPage FillNowCard(const clsPlanets &todayChart) {
   const QDateTime tithiEnd = EndOfTithi(todayChart), nakshatraEnd = EndOfNakshatra(todayChart);
   double nextTithi = tithi >= 30 ? 1 : tithi + 1, nextNakshatra = nakshatra >= 27 ? 1 : nakshatra + 1;
   const QDateTime now = todayChart.clsPerson().GetBirthDate();
-  page.nextChange = tithiEnd <= nakshatraEnd ? todayChart.GetTithiName(nextTithi).section(QLatin1Char(' '), -1) + QLatin1Char(' ') + ClockText(tithiEnd, now)
-                                             : todayChart.GetNakshatraName(nextNakshatra) + QLatin1Char(' ') + ClockText(nakshatraEnd, now);
-  page.rahuKaal = TimeRangeText(todayChart.GetRahuKaalStartToday(), todayChart.GetRahuKaalSpanToday())
-                      .remove(QStringLiteral(" AM"))
-                      .remove(QStringLiteral(" PM"));
+  page.nextChange = tithiEnd <= nakshatraEnd
+                        ? todayChart.GetTithiName(nextTithi).section(QLatin1Char(' '), -1) + QLatin1Char(' ') + ClockText(tithiEnd, now)
+                        : todayChart.GetNakshatraName(nextNakshatra) + QLatin1Char(' ') + ClockText(nakshatraEnd, now);
+  page.rahuKaal = RahuKaalText(todayChart);
   for (int planet = 0; planet <= 9; ++planet) {
     page.longitudes[static_cast<size_t>(planet)] = todayChart.PlanetLongi(planet);
     page.names[static_cast<size_t>(planet)] = todayChart.PlanetName(planet);

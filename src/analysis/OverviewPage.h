@@ -18,6 +18,10 @@ struct OverviewPage {
   QString lblBKundali, lblTransKundali, lblTodPanchang, lblOthFactors, lblDayHead, lblTithiHead, lblNakHead, lblYogaHead, lblKaranHead,
       lblRahuKaalHead, lblSunRiseHead, lblSunSetHead, lblYamGhantaHead, lblCurDashaHead;
 
+  // Where the times are the exact ones, what says so: in full and in short. Empty by the house rule.
+  QString lblExactHead, lblExactBrief;
+  bool IsExact() const { return !lblExactHead.isEmpty(); }
+
   // Element names with their captions, in the order of filling.
   std::vector<std::pair<QString, QString>> Captions() const;
 };

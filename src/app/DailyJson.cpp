@@ -162,6 +162,8 @@ QByteArray DailyJson(SelvaniDailyMod &session) {
                                {"UpagrahaMode", settings.IntValue(SettingKeys::UpagrahaMode)},
                                {"CalcMangMod", settings.IntValue(SettingKeys::CalcMangMod)},
                                {"CalcVarMod", settings.IntValue(SettingKeys::CalcVarMod)},
+                               {"DayDivisions", settings.IntValue(SettingKeys::DayDivisions)},
+                               {"SunriseRule", settings.IntValue(SettingKeys::SunriseRule)},
                                {"KundStyle", settings.IntValue(SettingKeys::KundStyle)}}},
       {"overview", OverviewObject(session)},
       {"birth", birthChart},

@@ -163,6 +163,8 @@ DailyOptions DailyOptions::Parse(const QStringList &arguments) {
   option("custom-ayan", "Degrees of the custom ayanamsha for this run; chooses --ayan 13.", "D");
   option("nodes", "Rahu and Ketu for this run: 1 mean, 2 true.", "1|2");
   option("upagraha", "Reckoning of the upagrahas for this run: 1 or 2.", "1|2");
+  option("divisions", "Day divisions for this run: 1 house rule, 2 exact.", "1|2");
+  option("sunrise", "Sunrise of exact times for this run: 1 disc centre without refraction, 2 upper limb with it.", "1|2");
   option("text", "Print text (the default).");
   option("json", "Print one JSON object with full-precision numbers.");
   option("read", "Print the day's texts to read.");
@@ -240,5 +242,11 @@ DailyOptions DailyOptions::Parse(const QStringList &arguments) {
     options.nodes = ReadChoice("nodes", parser.value(QStringLiteral("nodes")), {1, 2}, "1 for the mean nodes or 2 for the true ones");
   if (parser.isSet(QStringLiteral("upagraha")))
     options.upagraha = ReadChoice("upagraha", parser.value(QStringLiteral("upagraha")), {1, 2}, "1 or 2");
+  if (parser.isSet(QStringLiteral("divisions")))
+    options.divisions =
+        ReadChoice("divisions", parser.value(QStringLiteral("divisions")), {1, 2}, "1 for the house rule or 2 for exact times");
+  if (parser.isSet(QStringLiteral("sunrise")))
+    options.sunrise =
+        ReadChoice("sunrise", parser.value(QStringLiteral("sunrise")), {1, 2}, "1 for the disc's centre or 2 for its upper limb");
   return options;
 }

@@ -21,7 +21,7 @@ struct DailyOptions {
   std::optional<BirthRecord> birth;      // a person given on the line
   std::optional<PlaceRecord> residence;  // a residence given on the line
   std::optional<QDateTime> at;           // local moment at the residence; none: now
-  std::optional<int> ayanType, nodes, upagraha;
+  std::optional<int> ayanType, nodes, upagraha, divisions, sunrise;
   std::optional<QString> customAyan;  // decimal degrees
   std::optional<QDate> month;         // a month in place of the day
   QString icsFile;                    // of that month, or of the day's; empty: none

@@ -132,6 +132,8 @@ int ShowDay(const DailyOptions &options, const AppPaths &paths, std::shared_ptr<
   if (options.customAyan) settings.SetValue(SettingKeys::CustAyan, *options.customAyan);
   if (options.nodes) settings.SetIntValue(SettingKeys::RahuKetuMode, *options.nodes);
   if (options.upagraha) settings.SetIntValue(SettingKeys::UpagrahaMode, *options.upagraha);
+  if (options.divisions) settings.SetIntValue(SettingKeys::DayDivisions, *options.divisions);
+  if (options.sunrise) settings.SetIntValue(SettingKeys::SunriseRule, *options.sunrise);
   CheckCustomAyanamsha(settings, stored);
 
   const auto residences = OpenStored(paths.DailyPath(), options);

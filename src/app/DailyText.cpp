@@ -72,6 +72,7 @@ QString DailyText(SelvaniDailyMod &session) {
 
   QString text = Opening(session);
   text += Rule(page.lblTodPanchang);
+  if (page.IsExact()) text += Wrapped(page.lblExactHead);
   const int month = clsPlanets::VikramiMonth(today.PlanetLongi(1), today.clsPerson().GetBirthDate());
   text += Pairs(page.lblDayHead, page.lblDayVal, page.lblSunRiseHead, page.lblSunriseVal);
   text += Pairs(page.lblTithiHead, page.lblTithiVal, page.lblSunSetHead, page.lblSunsetVal);

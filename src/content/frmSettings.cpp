@@ -12,6 +12,7 @@
 #include <QRadioButton>
 #include <QStackedWidget>
 #include <QVBoxLayout>
+#include <span>
 
 #include "chart/Kundali.h"
 #include "content/Role.h"
@@ -38,6 +39,7 @@ namespace {
 
 constexpr int LastStep = 3;
 constexpr int SouthIndian = 2;
+constexpr int HouseDivisions = 1, ExactDivisions = 2, DiscCentre = 1, UpperLimb = 2;  // as they are stored
 
 // A day's sky, for the pictures of the chart styles: sign and what stands in it.
 struct Placed {
@@ -87,6 +89,8 @@ frmSettings::frmSettings(UserSettings &userSettings, clsIni configuration, QWidg
   ayanamsha = new QButtonGroup(this);
   kundaliStyle = new QButtonGroup(this);
   rahuKetu = new QButtonGroup(this);
+  dayDivisions = new QButtonGroup(this);
+  sunriseRule = new QButtonGroup(this);
 
   auto *all = new QVBoxLayout(this);
   all->setContentsMargins(Grid::Margin, Grid::Margin, Grid::Margin, Grid::Margin);
@@ -99,7 +103,7 @@ frmSettings::frmSettings(UserSettings &userSettings, clsIni configuration, QWidg
   MakeRahuKetu();
   MakeYourDetails();
   setMinimumSize(640, 440);
-  resize(760, 520);
+  resize(780, 560);
 
   LoadValues();
   ShowStep(0);
@@ -110,7 +114,7 @@ QWidget *frmSettings::MakeTrail() {
   auto *layout = new QHBoxLayout(row);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(3 * Grid::Gap);
-  const QString titles[] = {tr("1  Ayanamsha"), tr("2  Chart style"), tr("3  Rahu and Ketu"), tr("4  Your details")};
+  const QString titles[] = {tr("1  Ayanamsha and day"), tr("2  Chart style"), tr("3  Rahu and Ketu"), tr("4  Your details")};
   for (const QString &title : titles) {
     trail << MakeLabel(title, "caption", ShellFonts().NormalFont());
     trail.last()->setWordWrap(false);
@@ -193,15 +197,44 @@ void frmSettings::MakeAyanamsha() {
        QT_TR_NOOP("About six minutes of arc smaller than Lahiri's; made for the KP system of sub-lords.")},
       {"optSayan", 12, QT_TR_NOOP("Sayan (No Ayanamsh)"), QT_TR_NOOP("The tropical zodiac, counted from the spring equinox.")},
   };
+  static constexpr Choice divisions[] = {
+      {"optDivisionsHouse", HouseDivisions, QT_TR_NOOP("House rule (Default)"),
+       QT_TR_NOOP("Sunrise by the ascendant, and the day counted in clock numbers, as this program always has.")},
+      {"optDivisionsExact", ExactDivisions, QT_TR_NOOP("Exact"),
+       QT_TR_NOOP("By the sky, as a good printed panchang has it: true parts of daylight and night.")},
+  };
+  static constexpr Choice sunrises[] = {
+      {"optSunriseCentre", DiscCentre, QT_TR_NOOP("Disc centre, no refraction (Default)"), QT_TR_NOOP("The definition of most panchangs.")},
+      {"optSunriseLimb", UpperLimb, QT_TR_NOOP("Upper limb, with refraction"),
+       QT_TR_NOOP("As the Sun is seen to rise, a few minutes earlier; newspapers print it.")},
+  };
   QVBoxLayout *layout =
-      AddFrame({"framAyanamsha", QT_TR_NOOP("Ayanamsha"),
+      AddFrame({"framAyanamsha", QT_TR_NOOP("Ayanamsha and day divisions"),
                 QT_TR_NOOP("Select the Ayanamsha you wish to use. It is the distance between the zodiac of the Western system and "
                            "that of Jyotish. To see positions of the Western system, select Sayan.")});
-  for (const Choice &choice : choices) {
-    layout->addWidget(MakeOption(ayanamsha, choice), 0, Qt::AlignLeft);
-    layout->addWidget(MakeMeaning(choice));
-    layout->addSpacing(Grid::Gap);
-  }
+  auto *columns = new QHBoxLayout;
+  columns->setSpacing(3 * Grid::Gap);
+  const auto addColumn = [&] {
+    auto *column = new QVBoxLayout;
+    column->setSpacing(Grid::Gap / 2);
+    columns->addLayout(column, 1);
+    return column;
+  };
+  const auto addChoices = [&](QVBoxLayout *column, const QString &head, QButtonGroup *group, std::span<const Choice> offered) {
+    column->addWidget(MakeLabel(head, "head", Bold(ShellFonts().NormalFont())));
+    for (const Choice &choice : offered) {
+      column->addWidget(MakeOption(group, choice), 0, Qt::AlignLeft);
+      column->addWidget(MakeMeaning(choice));
+    }
+    column->addSpacing(Grid::Gap);
+  };
+  QVBoxLayout *left = addColumn(), *right = addColumn();
+  addChoices(left, tr("Ayanamsha"), ayanamsha, choices);
+  left->addStretch();
+  addChoices(right, tr("Day divisions"), dayDivisions, divisions);
+  addChoices(right, tr("Sunrise of exact times"), sunriseRule, sunrises);
+  right->addStretch();
+  layout->addLayout(columns);
   lblKept =
       MakeLabel(tr("A setting of your own is in force. It is kept unless you select another here."), "warn", ShellFonts().SmallFont());
   lblKept->setObjectName(QStringLiteral("lblKept"));
@@ -284,6 +317,8 @@ void frmSettings::LoadValues() {
   select(rahuKetu, settings.IntValue(SettingKeys::RahuKetuMode) == 1 ? 1 : 2);
   select(ayanamsha, settings.IntValue(SettingKeys::AyanType));
   select(kundaliStyle, settings.IntValue(SettingKeys::KundStyle));
+  select(dayDivisions, settings.IntValue(SettingKeys::DayDivisions) == ExactDivisions ? ExactDivisions : HouseDivisions);
+  select(sunriseRule, settings.IntValue(SettingKeys::SunriseRule) == UpperLimb ? UpperLimb : DiscCentre);
   lblKept->setVisible(ayanamsha->checkedId() < 0);
 }
 
@@ -309,6 +344,8 @@ void frmSettings::Write() {
   ini.WriteIniString(QStringLiteral("DispAdd"), txtAddress->text());
   settings.SetIntValue(SettingKeys::RahuKetuMode, rahuKetu->checkedId() == 1 ? 1 : 2);
   if (ayanamsha->checkedId() > 0) settings.SetIntValue(SettingKeys::AyanType, ayanamsha->checkedId());
+  settings.SetIntValue(SettingKeys::DayDivisions, dayDivisions->checkedId());
+  settings.SetIntValue(SettingKeys::SunriseRule, sunriseRule->checkedId());
   // With none selected the last of the styles is meant.
   settings.SetIntValue(SettingKeys::KundStyle, kundaliStyle->checkedId() < 0 ? SouthIndian : kundaliStyle->checkedId());
 }

@@ -50,6 +50,7 @@ class frmSettings : public QDialog {
   QButtonGroup *ayanamsha;  // ids are the stored values
   QButtonGroup *kundaliStyle;
   QButtonGroup *rahuKetu;
+  QButtonGroup *dayDivisions, *sunriseRule;
   QLabel *lblKept;
   QLineEdit *txtName;
   QLineEdit *txtAddress;

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Brivanta Works
 // SPDX-License-Identifier: AGPL-3.0-or-later
 // The divisions of the day: sunrise, sunset, hora, chogadiya, Rahu Kaal and the four evil muhurthas.
-// Tables: FirstOfDay, FirstOfNight, ChogadiyaWords, RahuKaalEighths, EvilMuhurthaEighths.
+// Tables: FirstOfDay, FirstOfNight, ChogadiyaWords; the eighths of the day in panchang/Eighths.h.
 // Sunrise is the moment at which the ascendant reaches the Sun's longitude. All eighths are taken of clock
 // numbers as they stand: that arithmetic is this program's definition of the periods.
 #include <array>
@@ -10,8 +10,10 @@
 #include "dasha/clsGochara.h"
 #include "engine/Functions.h"
 #include "engine/clsPlanets.h"
+#include "panchang/Eighths.h"
 #include "platform/Numbers.h"
 
+using Eighths::Of;
 using Functions::Norm7;
 
 namespace {
@@ -21,19 +23,8 @@ constexpr double SearchTolerance = 9.0;  // minutes of arc of the ascendant, abo
 // Weekday, Sunday first:                         Sun Mon Tue Wed Thu Fri Sat
 constexpr std::array<int, 7> FirstOfDay{1, 4, 7, 3, 6, 2, 5};
 constexpr std::array<int, 7> FirstOfNight{6, 2, 5, 1, 4, 7, 3};
-constexpr std::array<int, 7> RahuKaalEighths{8, 2, 7, 5, 6, 4, 3};
-constexpr std::array<std::array<int, 7>, 4> EvilMuhurthaEighths{{
-    {7, 6, 5, 4, 3, 2, 1},  // Kulik
-    {4, 3, 2, 1, 7, 6, 5},  // Kalbela
-    {5, 4, 3, 2, 1, 7, 6},  // Yamghant
-    {3, 2, 1, 7, 6, 5, 4},  // Kantak
-}};
 
 constexpr std::array<const char *, 7> ChogadiyaWords{"Udveg", "Chara", "Laabh", "Amrit", "Kaal", "Shubh", "Rog"};
-
-int Of(const std::array<int, 7> &byWeekday, int weekday) {
-  return weekday < 1 || weekday > 7 ? 0 : byWeekday[static_cast<size_t>(weekday - 1)];
-}
 
 double ClockOf(const clsPlanets &chart) { return TextToNumber(chart.clsPerson().GetBirthTime(), QStringLiteral("clock time")); }
 
@@ -138,13 +129,13 @@ QString clsPlanets::GetChowGadiyaName(int type) const {
 double clsPlanets::GetRahuKaalSpanToday() const { return SunriseToSunsetSpan(); }
 
 double clsPlanets::GetRahuKaalStartToday() const {
-  return StartOfEighth(Of(RahuKaalEighths, clsPerson().WeekDayOfBirth()), GetRahuKaalSpanToday(), SunRiseTime());
+  return StartOfEighth(Of(Eighths::RahuKaal, clsPerson().WeekDayOfBirth()), GetRahuKaalSpanToday(), SunRiseTime());
 }
 
 double clsPlanets::GetMuhurthaLength() const { return SunriseToSunsetSpan(); }
 
 double clsPlanets::GetEvilMuhurthaStart(int kind) const {
   // A kind that does not exist counts as the eighth before sunrise.
-  const int k = kind < 1 || kind > 4 ? 0 : Of(EvilMuhurthaEighths[static_cast<size_t>(kind - 1)], clsPerson().WeekDayOfBirth());
+  const int k = kind < 1 || kind > 4 ? 0 : Of(Eighths::EvilMuhurthas[static_cast<size_t>(kind - 1)], clsPerson().WeekDayOfBirth());
   return StartOfEighth(k, GetMuhurthaLength(), SunRiseTime());
 }

@@ -25,41 +25,21 @@ std::optional<Stretch> Between(const SkyEvent &first, const SkyEvent &second) {
 
 int WeekdayOf(const QDate &date) { return date.dayOfWeek() % 7 + 1; }
 
-// What bounds a day and the night before it.
-struct Bounds {
-  Dawn before, dawn, next;
-  SkyEvent sunsetBefore;
-};
-
-ExactDay FindDay(const QDate &date, const Bounds &bounds, const SunAndMoon &sky, const ExactRules &rules) {
-  using Ephemeris::Body;
-  ExactDay day;
-  day.date = date;
-  day.weekday = WeekdayOf(date);
-  day.begins = bounds.dawn.begins;
-  day.ends = bounds.next.begins;
-  day.sunrise = bounds.dawn.sunrise;
-  day.nextSunrise = bounds.next.sunrise;
-  day.sunset = sky.SunsetWithin(day.begins, day.ends);
-  day.moonrise = sky.MoonWithin(Ephemeris::Crossing::Rise, day.begins, day.ends);
-  day.moonset = sky.MoonWithin(Ephemeris::Crossing::Set, day.begins, day.ends);
-  day.sunLongitude = Ephemeris::ApparentLongitude(day.begins, Body::Sun, rules.zodiac);
-  day.moonLongitude = Ephemeris::ApparentLongitude(day.begins, Body::Moon, rules.zodiac);
-  day.limbs = FindLimbs(day.begins, day.ends, bounds.before.begins, rules.zodiac);
-  day.signChanges = FindSignChanges(day.begins, day.ends, rules.zodiac);
-  day.month = FindLunarMonth(day.begins, date, rules.zodiac);
-  const auto lightDay = Between(day.sunrise, day.sunset), night = Between(day.sunset, day.nextSunrise);
-  day.periods =
-      Periods::Find(day.weekday, Between(bounds.sunsetBefore, day.sunrise), lightDay, night, day.limbs.nakshatras, day.begins, day.ends);
-  day.chogadiyas = Periods::Chogadiyas(day.weekday, lightDay, night);
-  day.horas = Periods::Horas(day.weekday, lightDay, night);
-  return day;
-}
-
 }  // namespace
 
-std::vector<ExactDay> ExactDay::Days(const QDate &first, int count, const ExactRules &rules) {
-  static KeptDays kept;
+void ExactDay::FindMoonAndLimbs(const SunAndMoon &sky, double dayBefore, const ExactRules &rules) {
+  using Ephemeris::Body;
+  moonrise = sky.MoonWithin(Ephemeris::Crossing::Rise, begins, ends);
+  moonset = sky.MoonWithin(Ephemeris::Crossing::Set, begins, ends);
+  sunLongitude = Ephemeris::ApparentLongitude(begins, Body::Sun, rules.zodiac);
+  moonLongitude = Ephemeris::ApparentLongitude(begins, Body::Moon, rules.zodiac);
+  limbs = FindLimbs(begins, ends, dayBefore, rules.zodiac);
+  signChanges = FindSignChanges(begins, ends, rules.zodiac);
+  month = FindLunarMonth(begins, date, rules.zodiac);
+}
+
+std::vector<ExactDay> ExactDay::Days(const QDate &first, int count, const ExactRules &rules, Extent extent) {
+  static KeptDays kept;  // whole days alone
   kept.Use(rules);
   const SunAndMoon sky(rules.place, rules.zone, rules.disc);
   std::vector<ExactDay> days;
@@ -74,16 +54,34 @@ std::vector<ExactDay> ExactDay::Days(const QDate &first, int count, const ExactR
     const Dawn before = former ? Dawn{former->sunrise, former->begins} : DawnOf(date.addDays(-1), sky);
     const Dawn dawn = former ? Dawn{former->nextSunrise, former->ends} : DawnOf(date, sky);
     const SkyEvent sunsetBefore = former ? former->sunset : sky.SunsetWithin(before.begins, dawn.begins);
-    days.push_back(FindDay(date, {before, dawn, DawnOf(date.addDays(1), sky), sunsetBefore}, sky, rules));
-    kept.Keep(days.back());
+    const Dawn next = DawnOf(date.addDays(1), sky);
+    ExactDay day;
+    day.date = date;
+    day.weekday = WeekdayOf(date);
+    day.begins = dawn.begins;
+    day.ends = next.begins;
+    day.sunrise = dawn.sunrise;
+    day.nextSunrise = next.sunrise;
+    day.sunset = sky.SunsetWithin(day.begins, day.ends);
+    if (extent == Extent::Whole) day.FindMoonAndLimbs(sky, before.begins, rules);
+    const auto lightDay = day.Daylight(), night = day.Night();
+    day.periods =
+        Periods::Find(day.weekday, Between(sunsetBefore, day.sunrise), lightDay, night, day.limbs.nakshatras, day.begins, day.ends);
+    day.chogadiyas = Periods::Chogadiyas(day.weekday, lightDay, night);
+    day.horas = Periods::Horas(day.weekday, lightDay, night);
+    if (extent == Extent::Whole) kept.Keep(day);
+    days.push_back(std::move(day));
   }
   return days;
 }
 
-ExactDay ExactDay::Of(const QDate &date, const ExactRules &rules) { return Days(date, 1, rules).front(); }
+std::optional<Stretch> ExactDay::Daylight() const { return Between(sunrise, sunset); }
+std::optional<Stretch> ExactDay::Night() const { return Between(sunset, nextSunrise); }
 
-ExactDay ExactDay::At(double universalDay, const ExactRules &rules) {
+ExactDay ExactDay::Of(const QDate &date, const ExactRules &rules, Extent extent) { return Days(date, 1, rules, extent).front(); }
+
+ExactDay ExactDay::At(double universalDay, const ExactRules &rules, Extent extent) {
   const SunAndMoon sky(rules.place, rules.zone, rules.disc);
   const QDate date = rules.zone.LocalOf(universalDay).date();
-  return Of(universalDay < DawnOf(date, sky).begins ? date.addDays(-1) : date, rules);
+  return Of(universalDay < DawnOf(date, sky).begins ? date.addDays(-1) : date, rules, extent);
 }

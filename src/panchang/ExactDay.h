@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QDate>
+#include <optional>
 #include <vector>
 
 #include "engine/Ephemeris.h"
@@ -39,9 +40,20 @@ struct ExactDay {
   std::vector<Period> periods;
   std::vector<DayPart> chogadiyas, horas;
 
-  static ExactDay Of(const QDate &date, const ExactRules &rules);
+  // From sunrise to sunset, and from sunset to the next sunrise; none where the Sun does not do both.
+  std::optional<Stretch> Daylight() const;
+  std::optional<Stretch> Night() const;
+
+  // What of a day is worked out: the Sun alone takes a tenth of the time, and leaves out the Moon, the limbs, the month and what is
+  // cut from them.
+  enum class Extent { Whole, Sun };
+
+  static ExactDay Of(const QDate &date, const ExactRules &rules, Extent extent = Extent::Whole);
   // The day that runs at a moment: before sunrise it is still the day before.
-  static ExactDay At(double universalDay, const ExactRules &rules);
+  static ExactDay At(double universalDay, const ExactRules &rules, Extent extent = Extent::Whole);
   // Consecutive days, each sunrise searched once.
-  static std::vector<ExactDay> Days(const QDate &first, int count, const ExactRules &rules);
+  static std::vector<ExactDay> Days(const QDate &first, int count, const ExactRules &rules, Extent extent = Extent::Whole);
+
+ private:
+  void FindMoonAndLimbs(const SunAndMoon &sky, double dayBefore, const ExactRules &rules);
 };

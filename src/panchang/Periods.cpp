@@ -1,27 +1,21 @@
 // SPDX-FileCopyrightText: 2026 Brivanta Works
 // SPDX-License-Identifier: AGPL-3.0-or-later
 // The good and bad periods of the exact day, by parts of true daylight and night.
-// Tables: Eighths, DurMuhurtas, VarjyamGhatis, SecondVarjyamGhatis, AmritaGhatis.
+// Tables: DurMuhurtas, VarjyamGhatis, AmritaGhatis; the eighths of the day in panchang/Eighths.h.
 #include "panchang/Periods.h"
 
 #include <algorithm>
 
 #include "engine/clsPlanets.h"
+#include "panchang/Eighths.h"
+#include "platform/Errors.h"
 
 namespace {
 
-// Eighths of daylight, counted from 1, by weekday:   Sun Mon Tue Wed Thu Fri Sat
-// Gulika is the eighth that Saturn rules, Yamaghanta Jupiter's, both counted from the day's lord; Rahu has a row of his own.
-// B. V. Raman, Muhurtha (Electional Astrology), gives all three for a day of 6 to 18 o'clock.
-constexpr std::array<std::array<int, 7>, 3> Eighths{{
-    {8, 2, 7, 5, 6, 4, 3},  // Rahu Kaal
-    {5, 4, 3, 2, 1, 7, 6},  // Yamaghanta
-    {7, 6, 5, 4, 3, 2, 1},  // Gulika
-}};
-
-// Fifteenths of daylight, or of the night, that are unfit for a beginning; the Muhurta Chintamani (chapter 1) names them by the
-// deities of the muhurtas: Aryaman 14, Brahma 9 and Rakshasa 12, Pitri 4 and Agni of the night 7, Abhijit 8, Toya 6 and
-// Rakshasa 12, Pitri 4 and Brahma 9, Rudra 1 and Sarpa 2.
+// Fifteenths of daylight, or of the night, that are unfit for a beginning. The Muhurta Chintamani names them by the deities of the
+// muhurtas: on Sunday Aryaman (14 of the day), on Monday Brahma (9) and Rakshasa (12), on Tuesday Agni (7 of the night) and Pitri (4),
+// on Wednesday Abhijit (8), on Thursday Toya (6) and Rakshasa (12), on Friday Brahma (9) and Pitri (4), on Saturday Isha (1) and Sarpa
+// (2). A deity has one muhurta of the day, so that the same name is the same number on each weekday.
 struct DurMuhurtaRow {
   int first, second;  // 0: none
   bool secondOfNight;
@@ -36,9 +30,13 @@ constexpr std::array<DurMuhurtaRow, 7> DurMuhurtas{{
     {1, 2, false},   // Saturday
 }};
 
-// Ghatis after the beginning of a nakshatra of 60 at which its four ghatis of Varjyam (visha ghati) and of Amrita begin. A nakshatra
-// is seldom sixty ghatis long: both the distance and the four ghatis are taken in its own proportion. Muhurta Chintamani and, in the
-// south, Kalaprakasika; printed lists part at Ardra (11 or 21) and Hasta (21 or 22). Mula has a second Varjyam at 56.
+// Ghatis after the beginning of a nakshatra of 60 at which its four ghatis of Varjyam (the poison ghatis) and of Amrita begin. A
+// nakshatra is seldom sixty ghatis long: both the distance and the four ghatis are taken in its own proportion.
+// The Muhurta Chintamani gives the poison ghatis by number words, a group of nakshatras to each; 25 of the 27 are those below. The
+// southern lists, which have Amrita beside them and are followed here, part from it in two: Ardra has 11 (21 in the verses, and in
+// some printed lists), Mula 20 and a second one at 56 (56 alone in the verses). Hasta is 22 in some lists. By the southern lists
+// Amrita comes 24 ghatis after Varjyam wherever the nakshatra goes on so long, Ardra's 35 after 11 too, so that the two lists vouch
+// for each other; Ashwini and Rohini, whose Varjyam is late, have Amrita at numbers of their own, before and after it.
 constexpr std::array<int, 27> VarjyamGhatis{
     50, 24, 30,  // Ashwini, Bharani, Krittika
     40, 14, 11,  // Rohini, Mrigashira, Ardra
@@ -62,12 +60,23 @@ constexpr std::array<int, 27> AmritaGhatis{
     34, 34, 42,  // Shravana, Dhanishta, Shatabhisha
     40, 48, 54,  // Purva Bhadrapada, Uttara Bhadrapada, Revati
 };
-constexpr int GhatisOfNakshatra = 60, GhatisOfPeriod = 4;
+constexpr int GhatisOfNakshatra = 60, GhatisOfPeriod = 4, FromVarjyamToAmrita = 24;
 
-constexpr int MuhurtasOfDay = 15;
+constexpr bool AmritaFollowsVarjyam() {
+  for (size_t n = 0; n < VarjyamGhatis.size(); ++n) {
+    const int amrita = VarjyamGhatis[n] + FromVarjyamToAmrita;
+    if (amrita <= GhatisOfNakshatra - GhatisOfPeriod && AmritaGhatis[n] != amrita) return false;
+  }
+  return true;
+}
+static_assert(AmritaFollowsVarjyam(), "a cell of one of the two tables is mistyped");
+
+constexpr int EighthsOfDay = 8, MuhurtasOfDay = 15;
 constexpr int AbhijitMuhurta = 8;  // the one that holds noon
 constexpr int BrahmaMuhurta = 14;  // of the night: the last but one before sunrise
 constexpr int Wednesday = 4;
+
+int EighthOf(int evilMuhurtha, int weekday) { return Eighths::Of(Eighths::EvilMuhurthas[static_cast<size_t>(evilMuhurtha - 1)], weekday); }
 
 template <typename Table>
 auto Of(const Table &byWeekday, int weekday) {
@@ -85,8 +94,9 @@ std::vector<Period> Find(int weekday, const std::optional<Stretch> &nightBefore,
   const auto add = [&](Kind kind, const std::optional<Stretch> &of, int part, int count) {
     if (of && part > 0) periods.push_back({kind, of->Part(part - 1, count), of->Part(part, count), false});
   };
-  for (const auto &[kind, row] : {std::pair{Kind::RahuKaal, 0}, std::pair{Kind::Yamaghanta, 1}, std::pair{Kind::Gulika, 2}})
-    add(kind, day, Of(Eighths[static_cast<size_t>(row)], weekday), 8);
+  add(Kind::RahuKaal, day, Eighths::Of(Eighths::RahuKaal, weekday), EighthsOfDay);
+  for (const auto &[kind, row] : {std::pair{Kind::Yamaghanta, Eighths::Yamghant}, {Kind::Gulika, Eighths::Kulik}})
+    add(kind, day, EighthOf(row, weekday), EighthsOfDay);
   const DurMuhurtaRow dur = Of(DurMuhurtas, weekday);
   add(Kind::DurMuhurta, day, dur.first, MuhurtasOfDay);
   add(Kind::DurMuhurta, dur.secondOfNight ? night : day, dur.second, MuhurtasOfDay);
@@ -108,6 +118,13 @@ std::vector<Period> Find(int weekday, const std::optional<Stretch> &nightBefore,
   std::stable_sort(periods.begin(), periods.end(),
                    [](const Period &a, const Period &b) { return a.IsGood() != b.IsGood() ? b.IsGood() : a.begins < b.begins; });
   return periods;
+}
+
+Stretch EvilMuhurtha(int kind, int weekday, const Stretch &day) {
+  SubscriptError::Check("evil muhurtha", kind, Eighths::Kulik, Eighths::Kantak);
+  SubscriptError::Check("weekday", weekday, 1, 7);
+  const int eighth = EighthOf(kind, weekday);
+  return {day.Part(eighth - 1, EighthsOfDay), day.Part(eighth, EighthsOfDay)};
 }
 
 std::vector<DayPart> Chogadiyas(int weekday, const std::optional<Stretch> &day, const std::optional<Stretch> &night) {

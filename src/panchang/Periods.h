@@ -44,6 +44,9 @@ namespace Periods {
 std::vector<Period> Find(int weekday, const std::optional<Stretch> &nightBefore, const std::optional<Stretch> &day,
                          const std::optional<Stretch> &night, const std::vector<LimbSpan> &nakshatras, double begins, double ends);
 
+// kind: 1 Kulik, 2 Kalbela, 3 Yamghant, 4 Kantak, an eighth of the daylight each. Throws SubscriptError.
+Stretch EvilMuhurtha(int kind, int weekday, const Stretch &day);
+
 // Eight chogadiyas each of day and night.
 std::vector<DayPart> Chogadiyas(int weekday, const std::optional<Stretch> &day, const std::optional<Stretch> &night);
 // Twelve horas each of day and night: they are as long as the season makes them.

@@ -47,6 +47,10 @@ constexpr Choice Ayanamshas[] = {{"optLahiri", Lahiri, QT_TRANSLATE_NOOP("frmEdi
                                  {"optCustom", 13, QT_TRANSLATE_NOOP("frmEditLongLat", "Custom Ayanamsh")}};
 constexpr Choice Nodes[] = {{"optRahuMean", 1, QT_TRANSLATE_NOOP("frmEditLongLat", "Mean Position (Default)")},
                             {"optRahuTrue", 2, QT_TRANSLATE_NOOP("frmEditLongLat", "True Position")}};
+constexpr Choice DayDivisions[] = {{"optDivisionsHouse", 1, QT_TRANSLATE_NOOP("frmEditLongLat", "House rule (Default)")},
+                                   {"optDivisionsExact", 2, QT_TRANSLATE_NOOP("frmEditLongLat", "Exact")}};
+constexpr Choice SunriseRules[] = {{"optSunriseCentre", 1, QT_TRANSLATE_NOOP("frmEditLongLat", "Disc centre, no refraction (Default)")},
+                                   {"optSunriseLimb", 2, QT_TRANSLATE_NOOP("frmEditLongLat", "Upper limb, with refraction")}};
 constexpr Choice Methods[] = {{"optCalcEphem", 0, QT_TRANSLATE_NOOP("frmEditLongLat", "Modern Ephemeris")},
                               {"optCalcVakya", 1, QT_TRANSLATE_NOOP("frmEditLongLat", "Vakya Panchang/Surya Siddhanta")}};
 
@@ -321,6 +325,14 @@ QWidget *frmEditLongLat::MakeOptionsTab() {
   left->addStretch();
   right->addWidget(MakeHeading(tr("Rahu and Ketu")));
   nodes = MakeOptions(right, Nodes, this);
+  right->addSpacing(Grid::Gap);
+  right->addWidget(MakeHeading(tr("Day divisions")));
+  dayDivisions = MakeOptions(right, DayDivisions, this);
+  dayDivisions->button(1)->setToolTip(tr("Sunrise by the ascendant, and the day counted in clock numbers."));
+  dayDivisions->button(2)->setToolTip(tr("By the sky, as a good printed panchang has it."));
+  right->addSpacing(Grid::Gap);
+  right->addWidget(MakeHeading(tr("Sunrise of exact times")));
+  sunriseRules = MakeOptions(right, SunriseRules, this);
   right->addStretch();
   columns->addLayout(left, 1);
   columns->addLayout(right, 1);
@@ -596,6 +608,8 @@ void frmEditLongLat::ShowOptions() {
   Select(*ayanamshas, stored == Vakya ? Lahiri : stored);
   Select(*nodes, userSettings.IntValue(SettingKeys::RahuKetuMode));
   Select(*methods, 0);
+  Select(*dayDivisions, userSettings.IntValue(SettingKeys::DayDivisions) == 2 ? 2 : 1);
+  Select(*sunriseRules, userSettings.IntValue(SettingKeys::SunriseRule) == 2 ? 2 : 1);
   txtCustAyan->setText(userSettings.Value(SettingKeys::CustAyan));
   txtCustAyan->setEnabled(ayanamshas->checkedId() == 13);
   txtName->setText(ini.GetIniString(QStringLiteral("DispName"), QString()));
@@ -613,6 +627,8 @@ void frmEditLongLat::SaveOptions() {
   }
   if (ayanamshas->checkedId() >= 0) userSettings.SetIntValue(SettingKeys::AyanType, ayanamshas->checkedId());
   if (nodes->checkedId() >= 0) userSettings.SetIntValue(SettingKeys::RahuKetuMode, nodes->checkedId());
+  userSettings.SetIntValue(SettingKeys::DayDivisions, dayDivisions->checkedId());
+  userSettings.SetIntValue(SettingKeys::SunriseRule, sunriseRules->checkedId());
   userSettings.SetValue(SettingKeys::CustAyan, txtCustAyan->text().trimmed());
   emit CalculationChanged();
 }

@@ -34,7 +34,7 @@ class frmEditLongLat : public QDialog {
 
  signals:
   void PlacesChanged();
-  void CalculationChanged();  // ayanamsha or node were saved: charts must be made anew
+  void CalculationChanged();  // ayanamsha, node or the times of day were saved: charts must be made anew
 
  protected:
   bool eventFilter(QObject *watched, QEvent *event) override;
@@ -89,7 +89,7 @@ class frmEditLongLat : public QDialog {
   QPushButton *cmdCSave;
   QString countryName;  // the row on the screen; empty for a new country
 
-  QButtonGroup *methods, *ayanamshas, *nodes;  // ids are the stored values
+  QButtonGroup *methods, *ayanamshas, *nodes, *dayDivisions, *sunriseRules;  // ids are the stored values
   QLineEdit *txtCustAyan;
   QLineEdit *txtName;
   QPlainTextEdit *txtAddress;

@@ -68,7 +68,7 @@ void clsDailyPrinter::PrintFrontPage() {
           {overview.lblYogaHead, overview.lblYogaVal},
           {overview.lblKaranHead, overview.lblKaranVal}}},
         0);
-  table(overview.lblOthFactors, 5.25,
+  table(TimesTitle(overview.lblOthFactors, overview.lblExactHead), 5.25,
         {{{overview.lblRahuKaalHead, overview.lblRahuKaalVal},
           {overview.lblSunRiseHead, overview.lblSunriseVal},
           {overview.lblSunSetHead, overview.lblSunsetVal},
@@ -80,6 +80,7 @@ void clsDailyPrinter::PrintFrontPage() {
   Chart(overview.kunBirth, L + Inches(2.7), T + Inches(2), 380, 290);
   Title(overview.lblTransKundali, L + Inches(5), T + Inches(5.25), Down::Top);
   Chart(overview.kunTransit, L + Inches(2.7), T + Inches(5.5), 380, 290);
+  PlaceTimesHead(overview.lblExactHead, T + Inches(8.6));
   PageFooter();
 }
 

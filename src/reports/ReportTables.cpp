@@ -31,6 +31,8 @@ constexpr std::array<Place, 28> TrishulPlaces{{
 // A text at a column's very edge begins with a blank, to stand clear of the rule there.
 QString Inset(const QString &text) { return QLatin1Char(' ') + text; }
 
+QString HeadOf(const std::optional<ExactFrame> &exact) { return exact ? exact->head : QString(); }
+
 template <class Texts>
 QStringList ListOf(const Texts &texts) {
   return QStringList(texts.begin(), texts.end());
@@ -69,9 +71,10 @@ void clsDailyPrinter::PrintTrishul(double y0) {
 void clsDailyPrinter::PrintHoraTable(double y) {
   const HoraPage page = FillHoraPage(session.TodayChart());
   const double L = LeftMargin, column = Inches(0.85), width = 4 * column, room = column - 130;
-  Title(PageTitle("HoraChart"), L + Inches(1.7), y - Inches(0.25));
+  Title(TimesTitle(PageTitle("HoraChart"), HeadOf(page.exact)), L + Inches(1.7), y - Inches(0.25));
   printer.SetDrawWidth(1);
   printer.Box(L, y, L + width, y + Inches(3), Black);
+  PlaceTimesHead(HeadOf(page.exact), y + Inches(3.1));  // for the chogadiyas beside them too
   Rule(L, y + HeadRule, L + width, y + HeadRule);
   Rule(L + column, y, L + column, y + Inches(3));
   printer.FilledBox(L + 2 * column, y, L + 2 * column + Inches(0.005), y + Inches(3), Black);
@@ -90,7 +93,7 @@ void clsDailyPrinter::PrintHoraTable(double y) {
 void clsDailyPrinter::PrintChogadiyaTable(double y) {
   const ChogadiyaPage page = FillChogadiyaPage(session.TodayChart());
   const double left = LeftMargin + Inches(3.65), right = LeftMargin + Inches(6.8), middle = left + Inches(1.7);
-  Title(PageTitle("Chowgadiya"), middle, y - Inches(0.25));
+  Title(TimesTitle(PageTitle("Chowgadiya"), HeadOf(page.exact)), middle, y - Inches(0.25));
   printer.SetDrawWidth(1);
   printer.Box(left, y, right, y + Inches(2.1), Black);
   Rule(left, y + HeadRule, right, y + HeadRule);
@@ -152,10 +155,11 @@ void clsDailyPrinter::PrintPanchang() {
 void clsDailyPrinter::PrintEvilMuhurthas(double top) {
   const EvilMuhurthaPage page = FillEvilMuhurthaPage(session.TodayChart());
   const double left = LeftMargin + Inches(1.875), right = LeftMargin + Inches(5.275), bottom = top + Inches(1.25);
-  Title(PageTitle("EvilMuhurthas"), LeftMargin + Inches(3.4), top - Inches(0.25));
+  Title(TimesTitle(PageTitle("EvilMuhurthas"), HeadOf(page.exact)), LeftMargin + Inches(3.4), top - Inches(0.25));
   printer.SetDrawWidth(1);
   printer.Box(left, top, right, bottom, Black);
   Rule(left, top + HeadRule, right, top + HeadRule);
+  PlaceTimesHead(HeadOf(page.exact), bottom + Inches(0.1));
   const std::array<double, 3> columns{left, left + Inches(1.13), left + Inches(2.26)};
   for (size_t i = 1; i < columns.size(); ++i) Rule(columns[i], top, columns[i], bottom);
   const double room = Inches(1.13) - 60;

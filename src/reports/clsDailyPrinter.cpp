@@ -158,6 +158,14 @@ QString clsDailyPrinter::Word(const char *category, const char *key) const {
   return session.TodayChart().GetHeadValue(1, QLatin1String(key), QLatin1String(category));
 }
 
+QString clsDailyPrinter::TimesTitle(const QString &title, const QString &head) const {
+  return head.isEmpty() ? title : Word("Exact", "ExactTitle").arg(title);
+}
+
+void clsDailyPrinter::PlaceTimesHead(const QString &head, double y) {
+  if (!head.isEmpty()) PlaceFitted(head, LeftMargin + Inches(3.4), y, Across::Center, Down::Top, Inches(6.6), {QLatin1String(NormFont), 9});
+}
+
 void clsDailyPrinter::Title(const QString &text, double x, double y, Down down) {
   constexpr double titleSize = 14;  // the titles stand a quarter of an inch above their tables
   PlaceText(text, x, y, Across::Center, down, HeadStyle(titleSize));

@@ -74,6 +74,9 @@ class clsDailyPrinter {
   Style SmallStyle() const;
   QString PageTitle(const char *key) const;
   QString Word(const char *category, const char *key) const;
+  // A title of exact times says so; what they are goes by `head`, which is empty by the house rule.
+  QString TimesTitle(const QString &title, const QString &head) const;
+  void PlaceTimesHead(const QString &head, double y);
   void Title(const QString &text, double x, double y, Down down = Down::Middle);
   void Rule(double x1, double y1, double x2, double y2);
   void Chart(const KundaliPage &page, double x, double y, int widthPixels, int heightPixels);

@@ -159,6 +159,11 @@ TEST_F(DailyProgram, ChoosesForOneRunAlone) {
   EXPECT_EQ(chosen["residence"]["TextNS"], "S");
   EXPECT_EQ(chosen["residence"]["GMTDIFF"], "11");
   EXPECT_EQ(chosen["person"]["Hour"], 11) << "the correction stays in the record";
+  const Answer exact = Call({"--divisions", "2", "--sunrise", "2", "--at", "2026-11-21 09:00"});
+  EXPECT_TRUE(exact.out.contains("Exact times of Saturday") && exact.out.contains("upper limb")) << exact.out.toStdString();
+  const QByteArray exactJson = Call({"--json", "--divisions", "2", "--at", "2026-11-21 09:00"}).out;
+  EXPECT_EQ(QJsonDocument::fromJson(exactJson)["overview"]["lblSunriseVal"], "6:47");
+  EXPECT_EQ(QJsonDocument::fromJson(exactJson)["settings"]["DayDivisions"], 2);
   EXPECT_EQ(Call({"--json", "--at", "2026-11-21 09:00"}).out, before) << "no setting was kept";
 }
 
@@ -180,6 +185,7 @@ TEST_F(DailyProgram, AnswersAWrongCallInOneLine) {
       {{"--ayan", "14"}, "14"},
       {{"--nodes", "3"}, "--nodes '3'"},
       {{"--upagraha", "x"}, "--upagraha 'x'"},
+      {{"--divisions", "exact"}, "--divisions 'exact'"},
       {{"--custom-ayan", "1,5"}, "1,5"},
       {{"--ayan", "2", "--custom-ayan", "1"}, "--ayan 13"},
       {{"--lat", "27.09N"}, "--birth"},

@@ -6,6 +6,8 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <map>
+#include <set>
 
 #include "panchang/LunarAngle.h"
 
@@ -257,6 +259,39 @@ TEST(ExactDay, DividesTrueDaylightAndNight) {
   EXPECT_EQ(KaranaOfHalf(0), 11);
   for (const auto &[half, karana] : {std::pair{1, 1}, {7, 7}, {8, 1}, {56, 7}, {57, 8}, {58, 9}, {59, 10}})
     EXPECT_EQ(KaranaOfHalf(half), karana);
+}
+
+// The verses on the poison ghatis in the Muhurta Chintamani give them by number words, a group of nakshatras to each; here as
+// the numbers are read. Ardra's and Mula's are those of the southern lists, which part from the verses' 21 and single 56.
+TEST(ExactDay, KeepsToTheGhatisOfTheVerses) {
+  const std::map<int, std::vector<int>> verses{{30, {27, 7, 3, 10}},
+                                               {40, {4}},
+                                               {32, {9}},
+                                               {50, {1}},
+                                               {18, {12, 24}},
+                                               {20, {11, 14, 21, 8, 19}},
+                                               {14, {16, 15, 5, 18}},
+                                               {21, {13}},
+                                               {16, {25}},
+                                               {24, {26, 20, 2}},
+                                               {10, {17, 23, 22}},
+                                               {11, {6}},
+                                               {56, {19}}};
+  std::map<int, std::set<int>> varjyam, amrita, wanted;
+  for (const auto &[ghati, nakshatras] : verses)
+    for (const int nakshatra : nakshatras) wanted[nakshatra].insert(ghati);
+  for (const ExactDay &day : ExactDay::Days(QDate(2026, 1, 1), 60, Bengaluru())) {
+    for (const Period &period : day.periods) {
+      if (period.kind != Period::Kind::Varjyam && period.kind != Period::Kind::Amrita) continue;
+      for (const LimbSpan &nakshatra : day.limbs.nakshatras) {
+        const double ghati = (period.begins - nakshatra.begins) / (nakshatra.ends - nakshatra.begins) * 60;
+        if (ghati < 0 || ghati >= 60) continue;
+        (period.kind == Period::Kind::Varjyam ? varjyam : amrita)[nakshatra.number].insert(static_cast<int>(std::lround(ghati)));
+      }
+    }
+  }
+  EXPECT_EQ(varjyam, wanted);
+  for (const auto &[nakshatra, ghatis] : varjyam) EXPECT_EQ(amrita[nakshatra].size(), 1u) << nakshatra;
 }
 
 // The clocks of New York are put on at 2 o'clock of March 8: the day is told by the new time from then on.

@@ -7,11 +7,15 @@
 #include <QJsonArray>
 #include <QTemporaryDir>
 
+#include "analysis/ChogadiyaPage.h"
+#include "analysis/EvilMuhurthaPage.h"
 #include "analysis/ExactBeside.h"
 #include "analysis/ExactDayPage.h"
 #include "analysis/ExactSettings.h"
+#include "analysis/HoraPage.h"
 #include "analysis/MonthIcs.h"
 #include "analysis/MonthPage.h"
+#include "analysis/NowCardPage.h"
 #include "analysis/SelvaniDailyMod.h"
 #include "app/ExactOutput.h"
 #include "content/Languages.h"
@@ -103,9 +107,12 @@ TEST_F(ExactPages, TellWhatDoesNotHappen) {
     const ExactDayPage page = FillExactDay(Murmansk(month));
     EXPECT_EQ(page.events[0].ends, reason);
     EXPECT_NEAR(page.dayEnds, ends, 1e-6);
-    EXPECT_EQ(page.periods[0].remark, "none without a sunrise and a sunset");
+    EXPECT_EQ(page.periods[0].remark, month == 12 ? "polar night" : "midnight sun");
     for (const ExactDayPage::Row &row : page.events) EXPECT_FALSE(row.ends.isEmpty()) << row.name.toStdString();
     for (const ExactDayPage::Fact &fact : page.facts) EXPECT_FALSE(fact.value.isEmpty()) << fact.element;
+    for (const ExactDayPage::Lane &lane : page.lanes) EXPECT_FALSE(lane.bars.empty()) << lane.head.toStdString();
+    for (const ExactDayPage::Row &row : page.periods) EXPECT_FALSE(row.begins.isEmpty() || row.ends.isEmpty()) << row.name.toStdString();
+    EXPECT_EQ(page.lanes[6].bars[0].captions, QStringList{month == 12 ? "none: polar night" : "none: midnight sun"});
     const QJsonObject day = ExactOutput::Json(session.TodayChart());
     EXPECT_TRUE(day["sunrise"].isNull());
     EXPECT_NE(day["states"].toObject()["sunrise"].toString(), "happens");
@@ -220,4 +227,89 @@ TEST_F(ExactPages, ReadTheClockOfAKnownPlace) {
   EXPECT_EQ(rules("+01.00").zone.Name(), "Europe/London");
   EXPECT_EQ(rules("+05.30").zone.Name(), "");
   EXPECT_NEAR(rules("+00.00").place.longitude, -7 / 60.0, 1e-9);
+}
+
+// Rows of exact times follow each other from the first sunrise to the next without a gap, as their texts do.
+template <typename Page, typename Texts>
+void ExpectWholeDay(const Page &page, const Texts &texts) {
+  ASSERT_TRUE(page.exact);
+  double place = 0;
+  QString clock = page.exact->begins;
+  for (size_t i = 0; i < texts.size(); ++i) {
+    EXPECT_NEAR(page.rows[i].begins, place, 1e-6) << i;
+    EXPECT_EQ(texts[i].section('-', 0, 0), clock) << i;
+    place = page.rows[i].ends;
+    clock = texts[i].section('-', 1);
+  }
+  EXPECT_NEAR(place, page.exact->minutes, 1e-3);
+  EXPECT_EQ(clock, page.exact->ends);
+}
+
+TEST_F(ExactPages, ShowExactTimesWhereTheSettingAsksForThem) {
+  Agra();
+  EXPECT_FALSE(session.FillMainPage().IsExact());
+  EXPECT_EQ(session.FillMainPage().lblSunriseVal, "6:46 AM");
+  EXPECT_FALSE(FillHoraPage(session.TodayChart()).exact);
+  EXPECT_EQ(FillNowCard(session.TodayChart()).rahuKaal, "9:16-10:50");
+
+  settings.SetIntValue(SettingKeys::DayDivisions, 2);
+  const OverviewPage overview = session.FillMainPage();
+  EXPECT_EQ(overview.lblExactHead,
+            "Exact times of Saturday, November 21, 2026: sunrise is the Sun's centre on the horizon, without refraction; clock UTC+5:30.");
+  EXPECT_EQ(overview.Captions().back(), (std::pair{QStringLiteral("lblExactHead"), overview.lblExactHead}));
+  EXPECT_EQ(overview.lblSunriseVal, "6:47");
+  EXPECT_EQ(overview.lblSunsetVal, "17:21");
+  EXPECT_EQ(overview.lblRahuKaalVal, "9:25 to 10:44");
+  EXPECT_EQ(overview.lblYamghantaVal, "13:23 to 14:42");
+  EXPECT_EQ(overview.lblTithiVal, "Shukla Dvadashi");
+  EXPECT_EQ(FillNowCard(session.TodayChart()).rahuKaal, "9:25-10:44");
+  const HoraPage hora = FillHoraPage(session.TodayChart());
+  const ChogadiyaPage chogadiya = FillChogadiyaPage(session.TodayChart());
+  ExpectWholeDay(hora, hora.lblHoraTime);
+  ExpectWholeDay(chogadiya, chogadiya.lblChogTime);
+  EXPECT_EQ(hora.lblHoraName[0], "Saturn");
+  EXPECT_EQ(chogadiya.lblChogName[0], "Kaal");
+  EXPECT_NEAR(hora.exact->now, 199.5, 0.5);
+  const EvilMuhurthaPage evil = FillEvilMuhurthaPage(session.TodayChart());
+  const std::array<QString, 4> starts{"6:47", "12:04", "13:23", "10:44"};
+  for (size_t row = 0; row < 4; ++row) {
+    EXPECT_EQ(evil.rows[row].start, starts[row]);
+    EXPECT_NEAR((evil.rows[row].ends - evil.rows[row].begins) * 8, evil.exact->dayEnds, 1e-4);
+  }
+  settings.SetIntValue(SettingKeys::SunriseRule, 2);
+  EXPECT_TRUE(session.FillMainPage().lblExactHead.contains("upper limb on the horizon, with refraction"));
+  EXPECT_LT(FillHoraPage(session.TodayChart()).lblHoraTime[0], hora.lblHoraTime[0]) << "the limb is seen some minutes earlier";
+
+  // After midnight the day goes on: its weekday, lords and periods are those of its sunrise, and times tell their date.
+  Chart(Place("Agra", "+05.30", 27, 9, "N", 78, 0, "E"), Moment(2026, 11, 22, 3));
+  const OverviewPage late = session.FillMainPage();
+  EXPECT_EQ(late.lblDayVal, "Saturday");
+  EXPECT_TRUE(late.lblSunriseVal.startsWith("21 Nov 6:4")) << late.lblSunriseVal.toStdString();
+  EXPECT_TRUE(late.lblExactHead.contains("Saturday, November 21"));
+  const HoraPage lateHora = FillHoraPage(session.TodayChart());
+  EXPECT_EQ(lateHora.lblHoraName, hora.lblHoraName);
+  EXPECT_TRUE(lateHora.exact->now > lateHora.rows[20].begins && lateHora.exact->now < lateHora.rows[20].ends);
+  settings.SetIntValue(SettingKeys::DayDivisions, 1);
+  EXPECT_EQ(session.FillMainPage().lblDayVal, "Sunday") << "the house rule's day is that of the date";
+  EXPECT_TRUE(notices.Seen().empty());
+}
+
+TEST_F(ExactPages, NameTheStateOfAPolarDayInEveryCell) {
+  settings.SetIntValue(SettingKeys::DayDivisions, 2);
+  for (const auto &[month, state] : {std::pair{12, "polar night"}, {6, "midnight sun"}}) {
+    Murmansk(month);
+    const QString none = QStringLiteral("none: %1").arg(state);
+    const OverviewPage overview = session.FillMainPage();
+    EXPECT_EQ(overview.lblSunriseVal, QStringLiteral("no sunrise: %1").arg(state));
+    EXPECT_EQ(overview.lblSunsetVal, QStringLiteral("no sunset: %1").arg(state));
+    EXPECT_EQ(overview.lblRahuKaalVal, none);
+    EXPECT_EQ(FillNowCard(session.TodayChart()).rahuKaal, none);
+    const HoraPage hora = FillHoraPage(session.TodayChart());
+    for (const QString &time : hora.lblHoraTime) EXPECT_EQ(time, none);
+    EXPECT_EQ(hora.exact->none, (std::array{none, none}));
+    for (const QString &time : FillChogadiyaPage(session.TodayChart()).lblChogTime) EXPECT_EQ(time, none);
+    for (const EvilMuhurthaPage::Row &row : FillEvilMuhurthaPage(session.TodayChart()).rows)
+      EXPECT_TRUE(row.start == none && row.end == none && row.begins == row.ends);
+  }
+  EXPECT_TRUE(notices.Seen().empty());
 }

@@ -103,6 +103,30 @@ TEST_F(DailyPrinterTest, PartsStandAtTheirPlaces) {
   EXPECT_NEAR(middleOf("27", 3).y(), T + (1.25 + 0.43) * Inch, 1);
 }
 
+TEST_F(DailyPrinterTest, ExactTimesSaySoInTheirTitles) {
+  const QStringList keys{"FrontPage", "MoreCharts", "Auspicious"};
+  const QString head =
+      "Exact times of Saturday, November 21, 2026: sunrise is the Sun's centre on the horizon, without refraction; clock UTC+5:30.";
+  Print(keys);
+  EXPECT_FALSE(paper.Find(head, 1));
+  EXPECT_TRUE(paper.Find("Hora", 2) && paper.Find("6:46 AM", 2));
+  paper.Clear();
+  settings.SetIntValue(SettingKeys::DayDivisions, 2);
+  Print(keys);
+  for (int page = 1; page <= 3; ++page) EXPECT_TRUE(paper.Find(head, page)) << page;
+  const std::pair<int, const char *> texts[] = {{1, "Other Factors, exact"},
+                                                {1, "9:25 to 10:44"},
+                                                {1, "6:47"},
+                                                {2, "Hora, exact"},
+                                                {2, "Chogadiya, exact"},
+                                                {2, "6:47-7:39"},
+                                                {2, "6:47-8:06"},
+                                                {3, "Evil Muhurtas, exact"},
+                                                {3, "13:23"}};
+  for (const auto &[page, text] : texts) EXPECT_TRUE(paper.Find(text, page)) << page << " " << text;
+  EXPECT_TRUE(notices.Seen().empty());
+}
+
 TEST_F(DailyPrinterTest, RunningTextWrapsAndBreaksPages) {
   // At 10 points a character is 100 twips and a line 230: 86 characters stay below six inches.
   const QString word = QString(42, 'a');

@@ -205,6 +205,9 @@ TEST_F(EditLongLat, OptionsAndDetailsAreKept) {
   EXPECT_EQ(Text("txtCustAyan"), "00.00");
   Click("optCustom");
   Click("optRahuTrue");
+  EXPECT_TRUE(Find<QAbstractButton>("optDivisionsHouse")->isChecked() && Find<QAbstractButton>("optSunriseCentre")->isChecked());
+  Click("optDivisionsExact");
+  Click("optSunriseLimb");
   Set("txtCustAyan", "23,5");
   Click("cmdSaveAyanKundStyle");
   EXPECT_EQ(settings.IntValue(SettingKeys::AyanType), 15) << "unreadable degrees are not saved";
@@ -213,6 +216,8 @@ TEST_F(EditLongLat, OptionsAndDetailsAreKept) {
   EXPECT_EQ(settings.IntValue(SettingKeys::AyanType), 13);
   EXPECT_EQ(settings.IntValue(SettingKeys::RahuKetuMode), 2);
   EXPECT_EQ(settings.Value(SettingKeys::CustAyan), "23.50");
+  EXPECT_EQ(settings.IntValue(SettingKeys::DayDivisions), 2);
+  EXPECT_EQ(settings.IntValue(SettingKeys::SunriseRule), 2);
 
   Set("txtName", "Asha");
   Find<QPlainTextEdit>("txtAddress")->setPlainText("12 Ghat Road");

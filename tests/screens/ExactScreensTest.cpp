@@ -15,10 +15,14 @@
 #include "analysis/SelvaniDailyMod.h"
 #include "content/Languages.h"
 #include "content/SetFonts.h"
+#include "content/pages/ChogadiyaView.h"
 #include "content/pages/DayTimeline.h"
+#include "content/pages/EvilMuhurthaView.h"
 #include "content/pages/ExactDayView.h"
+#include "content/pages/HoraView.h"
 #include "content/pages/MonthGrid.h"
 #include "content/pages/MonthView.h"
+#include "content/pages/OverviewView.h"
 #include "platform/AppPaths.h"
 #include "platform/Notices.h"
 
@@ -40,6 +44,16 @@ class ExactScreens : public testing::Test {
     view.ApplyFonts(SetFonts(*FindLanguage(paths, QStringLiteral("English"))));
     view.show();
     QTest::qWait(1);
+  }
+
+  static QString Text(const QWidget &view, const QString &name) { return view.findChild<QLabel *>(name)->text(); }
+
+  // The row whose mark is written; -1 for none, -2 for several.
+  static int Marked(const QWidget &view, const QString &element, int rows) {
+    int marked = -1;
+    for (int row = 0; row < rows; ++row)
+      if (!Text(view, element + QString::number(row)).isEmpty()) marked = marked == -1 ? row : -2;
+    return marked;
   }
 
   static QByteArray Content(const QString &path) {
@@ -154,5 +168,90 @@ TEST_F(ExactScreens, WalkThroughTheMonths) {
   QTest::mouseClick(view.findChild<QPushButton *>("cmdMonthIcs"), Qt::LeftButton);
   EXPECT_EQ(Content(folder.filePath("November 2026.pdf")).count("/Type /Page\n"), 1);
   EXPECT_TRUE(Content(folder.filePath("November 2026.ics")).startsWith("BEGIN:VCALENDAR"));
+  EXPECT_TRUE(notices.Seen().empty());
+}
+
+TEST_F(ExactScreens, TellExactTimesAndSaySo) {
+  settings.SetIntValue(SettingKeys::DayDivisions, 2);
+  struct Moment {
+    int hour, chogadiya, hora;  // the rows that run
+  };
+  // The night's last parts still run before sunrise.
+  for (const Moment &moment : {Moment{3, 13, 20}, Moment{7, 0, 0}, Moment{10, 2, 3}, Moment{18, 8, 12}, Moment{23, 11, 17}}) {
+    SCOPED_TRACE(moment.hour);
+    session.BuildAnalysis(QDateTime(QDate(2026, 11, 21), QTime(moment.hour, 6), Qt::UTC));
+    ChogadiyaView chogadiya;
+    HoraView hora;
+    for (const QSize &size : {QSize(1500, 900), QSize(862, 618), QSize(414, 340)}) {
+      Show(chogadiya, size);
+      Show(hora, size);
+      EXPECT_EQ(Marked(chogadiya, "lblChogMark", 16), moment.chogadiya);
+      EXPECT_EQ(Marked(hora, "lblHoraMark", 24), moment.hora);
+      for (const QWidget *view : std::initializer_list<QWidget *>{&chogadiya, &hora}) {
+        const auto *head = view->findChild<QLabel *>("lblExactHead");
+        EXPECT_TRUE(head->isVisible() && head->text().startsWith("Exact times of "));
+        EXPECT_GE(head->height(), head->heightForWidth(head->width()));
+        EXPECT_FALSE(view->findChild<QLabel *>("lblBeforeSunrise")->isVisible());
+      }
+    }
+  }
+  session.BuildAnalysis(QDateTime(QDate(2026, 11, 21), QTime(13, 36), Qt::UTC));
+  EvilMuhurthaView evil;
+  Show(evil, {862, 618});
+  EXPECT_EQ(Text(evil, "lblYamGhanTmS"), "13:23");
+  EXPECT_EQ(Marked(evil, "lblMuhurthaMark", 4), 2);
+  EXPECT_TRUE(evil.findChild<QLabel *>("lblExactHead")->isVisible());
+  OverviewView overview;
+  Show(overview, {862, 618});
+  auto *says = overview.findChild<QPushButton *>("lblExactHead");
+  EXPECT_TRUE(says->isVisible() && says->toolTip().contains("Sun's centre"));
+  EXPECT_EQ(says->text(), "exact, sunrise of the Sun's centre");
+  EXPECT_EQ(Text(overview, "lblYamghantaVal"), "13:23 to 14:42");
+  QPushButton *beside = overview.findChild<QPushButton *>("exact_lblYamghantaVal");
+  EXPECT_FALSE(beside->isVisible());
+  QSignalSpy pages(&overview, &PageView::GoToPage);
+  QTest::mouseClick(says, Qt::LeftButton);
+  EXPECT_EQ(pages.at(0).at(0).toInt(), 36);
+
+  settings.SetIntValue(SettingKeys::DayDivisions, 1);
+  Show(overview, {862, 618});
+  Show(evil, {862, 618});
+  EXPECT_FALSE(says->isVisible());
+  EXPECT_TRUE(beside->isVisible());
+  EXPECT_FALSE(evil.findChild<QLabel *>("lblExactHead")->isVisible());
+  EXPECT_EQ(Text(evil, "lblYamGhanTmS"), "13:20 PM");
+  EXPECT_TRUE(notices.Seen().empty());
+}
+
+TEST_F(ExactScreens, NameAPolarNightInPlaceOfItsParts) {
+  settings.SetIntValue(SettingKeys::DayDivisions, 2);
+  PlaceRecord murmansk;
+  murmansk.City = "Murmansk";
+  murmansk.Country = "Russia";
+  murmansk.GMTDIFF = "+03.00";
+  murmansk.LatDeg = 68;
+  murmansk.LatMT = 58;
+  murmansk.TextNS = "N";
+  murmansk.LongDeg = 33;
+  murmansk.LongMT = 5;
+  murmansk.TextEW = "E";
+  session.SetResidence(murmansk);
+  session.BuildAnalysis(QDateTime(QDate(2025, 1, 1), QTime(12, 0), Qt::UTC));
+  ChogadiyaView chogadiya;
+  EvilMuhurthaView evil;
+  Show(chogadiya, {862, 618});
+  Show(evil, {862, 618});
+  for (const char *half : {"lblNoParts0", "lblNoParts1"}) {
+    EXPECT_TRUE(chogadiya.findChild<QLabel *>(half)->isVisible());
+    EXPECT_EQ(Text(chogadiya, half), "none: polar night");
+  }
+  EXPECT_FALSE(chogadiya.findChild<QLabel *>("lblChogTime0")->isVisible());
+  EXPECT_EQ(Text(evil, "lblKantakTmE"), "none: polar night");
+  EXPECT_EQ(Marked(evil, "lblMuhurthaMark", 4), -1);
+  session.SetResidence(std::nullopt);
+  session.BuildAnalysis(QDateTime(QDate(2025, 1, 1), QTime(12, 0), Qt::UTC));
+  Show(chogadiya, {862, 618});
+  EXPECT_FALSE(chogadiya.findChild<QLabel *>("lblNoParts0")->isVisible());
+  EXPECT_TRUE(chogadiya.findChild<QLabel *>("lblChogTime0")->isVisible());
   EXPECT_TRUE(notices.Seen().empty());
 }

@@ -383,6 +383,27 @@ TEST_F(MainScreen, TheSamplePersonFollowsTheSettingsToo) {
   EXPECT_NE(Caption("lblDegrees0"), ascendant);
 }
 
+TEST_F(MainScreen, ShowsTheOpenPageAnewInExactTimes) {
+  Open();
+  const auto choose = [&](const char *option) {
+    InModal<frmSettings>([option](frmSettings &wizard) {
+      wizard.findChild<QAbstractButton *>(QLatin1String(option))->click();
+      for (int step = 0; step < 3; ++step) wizard.findChild<QAbstractButton *>("flpNextFrame")->click();
+      wizard.findChild<QAbstractButton *>("flpFinish")->click();
+    });
+    Press("flpSettings");
+  };
+  screen->Pages().ShowPage(17);
+  const QString house = Caption("lblHoraTime3"), card = Caption("nowRahuKaal");
+  choose("optDivisionsExact");
+  EXPECT_NE(Caption("lblHoraTime3"), house);
+  EXPECT_TRUE(Caption("lblHoraTime3").contains('-'));
+  EXPECT_NE(Caption("nowRahuKaal"), card);
+  choose("optDivisionsHouse");
+  EXPECT_EQ(Caption("lblHoraTime3"), house);
+  EXPECT_EQ(Caption("nowRahuKaal"), card);
+}
+
 TEST_F(MainScreen, ALeftPageLeavesNothingBehind) {
   Open();
   screen->Pages().ShowPage(19);

@@ -84,6 +84,30 @@ TEST_F(SettingsWizard, ReadsAndWritesEveryChoice) {
   }
 }
 
+TEST_F(SettingsWizard, OffersTheDayDivisionsOnItsFirstStep) {
+  struct Row {
+    const char *divisions, *sunrise;  // stored before; null for never stored
+    const char *divisionsOption, *sunriseOption;
+  };
+  for (const Row &row : {Row{nullptr, nullptr, "optDivisionsHouse", "optSunriseCentre"},
+                         Row{"2", "2", "optDivisionsExact", "optSunriseLimb"}, Row{"7", "0", "optDivisionsHouse", "optSunriseCentre"}}) {
+    settings = MemoryUserSettings();
+    if (row.divisions) settings.SetValue(SettingKeys::DayDivisions, row.divisions);
+    if (row.sunrise) settings.SetValue(SettingKeys::SunriseRule, row.sunrise);
+    Open();
+    EXPECT_EQ(Frame(), "framAyanamsha");
+    EXPECT_EQ(Set({"optDivisionsHouse", "optDivisionsExact"}), row.divisionsOption);
+    EXPECT_EQ(Set({"optSunriseCentre", "optSunriseLimb"}), row.sunriseOption);
+    EXPECT_TRUE(Button("optDivisionsExact").isVisible());
+  }
+  Button("optDivisionsExact").click();
+  Button("optSunriseLimb").click();
+  EXPECT_EQ(Set({"optLahiri"}), "optLahiri") << "each group keeps its own choice";
+  Finish();
+  EXPECT_EQ(settings.Value(SettingKeys::DayDivisions), "2");
+  EXPECT_EQ(settings.Value(SettingKeys::SunriseRule), "2");
+}
+
 TEST_F(SettingsWizard, KeepsTheDetailsAndTakesAChartForItsOption) {
   Open();
   Button("flpNextFrame").click();

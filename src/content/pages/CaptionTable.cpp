@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr double TightRow = 1.6, RoomyRow = 2.5;  // row heights in text heights
+constexpr double TightRow = 1.6, RoomyRow = 2.5, VastRow = 4.2;  // row heights in text heights
 constexpr int WideGap = Grid::Gap + 4, NarrowGap = 5;
 constexpr int NarrowSide = 6, Side = 10;  // from the tint's edge to the text
 constexpr int RunningBar = 4;
@@ -138,14 +138,27 @@ void CaptionTable::SetRunningRow(int row) {
   update();
 }
 
-void CaptionTable::ApplyFonts(const SetFonts &fonts, bool large) {
-  for (QLabel *head : heads)
-    if (head) fonts.SetSmallFont(*head);
+CaptionTable::TextSize CaptionTable::TextSizeFor(const QSize &page, const QSize &roomy) {
+  constexpr QSize vast(1100, 760);
+  const auto holds = [&](const QSize &size) { return page.width() >= size.width() && page.height() >= size.height(); };
+  return holds(vast) ? TextSize::Large : holds(roomy) ? TextSize::Normal : TextSize::Small;
+}
+
+void CaptionTable::ApplyFonts(const SetFonts &fonts, TextSize size) {
+  textSize = size;
+  for (QLabel *head : heads) {
+    if (!head) continue;
+    fonts.SetSmallFont(*head);
+    if (size == TextSize::Large) fonts.SetNormalFont(*head);
+  }
+  const int points = size == TextSize::Large    ? fonts.SubHeadFont().pointSize()
+                     : size == TextSize::Normal ? fonts.NormalFont().pointSize()
+                                                : fonts.SmallFont().pointSize();
   for (QWidget *cell : cells) {
-    if (large)
-      fonts.SetNormalFont(*cell);
-    else
-      fonts.SetSmallFont(*cell);
+    fonts.SetNormalFont(*cell);
+    QFont font = cell->font();  // bold stays where a column has it
+    font.setPointSize(points);
+    cell->setFont(font);
   }
   FitRows();
 }
@@ -154,9 +167,10 @@ void CaptionTable::FitRows() {
   const int text = cells.empty() ? fontMetrics().height() : cells.front()->fontMetrics().height();
   for (int row = 0; row < GridRow(rows); ++row)
     grid->setRowMinimumHeight(row, qRound(text * (roomy && (!hasHeads || row > 0) ? RoomyRow : TightRow)));
-  const int full = qRound(text * TightRow) + qRound(rows * text * RoomyRow);
+  const int full = qRound(text * TightRow) + qRound(rows * text * (textSize == TextSize::Large ? VastRow : RoomyRow));
   const int needed = hasHeightForWidth() ? heightForWidth(width()) : 0;
-  setMaximumHeight(std::max(full, needed));
+  // A few rows take all the height of a large page.
+  setMaximumHeight(roomy && textSize == TextSize::Large ? QWIDGETSIZE_MAX : std::max(full, needed));
 }
 
 void CaptionTable::SetRoomy() {

@@ -49,8 +49,11 @@ class CaptionTable : public QWidget {
   // Rows of the full height always, for a table of few rows.
   void SetRoomy();
 
-  // large: in the normal size instead of the small one, where a page has much room for few rows.
-  void ApplyFonts(const SetFonts &fonts, bool large = false);
+  // Small as a rule; Normal where a page has room, and Large where it has much room for few rows, which then grow taller too.
+  enum class TextSize { Small, Normal, Large };
+  // roomy: the page's size from which it is Normal.
+  static TextSize TextSizeFor(const QSize &page, const QSize &roomy);
+  void ApplyFonts(const SetFonts &fonts, TextSize size = TextSize::Small);
 
   QSize minimumSizeHint() const override;
 
@@ -72,6 +75,7 @@ class CaptionTable : public QWidget {
   bool hasHeads = false;
   int running = -1;
   bool roomy = false;
+  TextSize textSize = TextSize::Small;
   bool compact = false;  // narrow gaps and no pictures
   QGridLayout *grid;
   std::vector<QLabel *> heads;

@@ -6,6 +6,7 @@
 
 #include "analysis/ChogadiyaPage.h"
 #include "analysis/SelvaniDailyMod.h"
+#include "content/pages/ExactSpan.h"
 #include "content/pages/PeriodClock.h"
 
 namespace {
@@ -50,12 +51,15 @@ void ChogadiyaView::Fill(SelvaniDailyMod &session) {
   TimeHead(0).setText(page.lblTimeHead1);
   TimeHead(1).setText(page.lblTimeHead2);
   SetNote(page.lblChogDesc);
+  SetExact(page.exact);
   const QDateTime &moment = session.AnalysisMoment();
-  const bool before = PeriodClock::IsBeforeSunrise(page.rows[0].startClock, moment.time());
-  int running = -1;
+  const QString momentWord = PeriodClock::Word(moment);
+  const bool before = !page.exact && PeriodClock::IsBeforeSunrise(page.rows[0].startClock, moment.time());
+  int running = page.exact ? ExactSpan::RowAt(page.rows, page.exact->now) : -1;
   SpanStrip::Span day;
-  // The axis runs on past midnight, as the night does.
-  double place = day.from = PeriodClock::MinutesOfDay(page.rows[0].startClock);
+  if (page.exact) day = ExactSpan::OfDay(*page.exact, momentWord);
+  // By the house rule the axis is the clock's and runs on past midnight, as the night does.
+  double place = page.exact ? 0 : day.from = PeriodClock::MinutesOfDay(page.rows[0].startClock);
   for (int row = 0; row < static_cast<int>(page.rows.size()); ++row) {
     const auto i = static_cast<size_t>(row);
     const ChogadiyaPage::Row &period = page.rows[i];
@@ -65,19 +69,22 @@ void ChogadiyaView::Fill(SelvaniDailyMod &session) {
     table.Cell(RowOf(row), Verdict).setText(tr(judgement.word));
     table.SetTone(RowOf(row), Verdict, judgement.tone);
     table.Cell(RowOf(row), Time).setText(page.lblChogTime[i]);
-    const int length = PeriodClock::Minutes(period.startClock, period.startClock + period.span);
-    day.parts.push_back({place, place + length, page.lblChogName[i],
-                         judgement.tone == CaptionTable::Tone::Good  ? SpanStrip::Tone::Good
-                         : judgement.tone == CaptionTable::Tone::Bad ? SpanStrip::Tone::Bad
-                                                                     : SpanStrip::Tone::Plain});
-    place += length;
-    if (!before && running < 0 && PeriodClock::Holds(period.startClock, period.startClock + period.span, moment.time())) running = row;
+    const double endClock = period.startClock + period.span;
+    const double begins = page.exact ? period.begins : place;
+    const double ends = page.exact ? period.ends : place + PeriodClock::Minutes(period.startClock, endClock);
+    place = ends;
+    const bool good = judgement.tone == CaptionTable::Tone::Good, bad = judgement.tone == CaptionTable::Tone::Bad;
+    const SpanStrip::Tone tone = good ? SpanStrip::Tone::Good : bad ? SpanStrip::Tone::Bad : SpanStrip::Tone::Plain;
+    if (begins < ends || !page.exact) day.parts.push_back({begins, ends, page.lblChogName[i], tone, page.lblChogName[i].left(2)});
+    if (!page.exact && !before && running < 0 && PeriodClock::Holds(period.startClock, endClock, moment.time())) running = row;
   }
-  day.to = place;
-  day.ticks = SpanStrip::HourTicks(int(day.from), int(day.to));
-  day.moment = before ? -1 : moment.time().hour() * 60 + moment.time().minute();
-  day.momentWord = PeriodClock::Word(moment);
+  if (!page.exact) {
+    day.to = place;
+    day.ticks = SpanStrip::HourTicks(int(day.from), int(day.to));
+    day.moment = before ? -1 : moment.time().hour() * 60 + moment.time().minute();
+    day.momentWord = momentWord;
+  }
   SetStrip(std::move(day), tr("The day and the night from sunrise to sunrise"));
-  MarkRunning(running, Mark, PeriodClock::Word(moment));
+  MarkRunning(running, Mark, momentWord);
   SetBeforeSunrise(before);
 }

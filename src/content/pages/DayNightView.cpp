@@ -12,11 +12,17 @@
 #include "content/pages/SideBySide.h"
 
 namespace {
-constexpr int RoomyHeight = 560, RoomyWidth = 840;  // pixels from which the rows take the normal size
+constexpr QSize Roomy(840, 560);  // pixels from which the rows take the normal size
 }
 
 DayNightView::DayNightView(const Names &names, std::vector<CaptionTable::Column> columns, int timeColumn, int rowsOfHalf, QWidget *parent)
-    : PageView(parent), halfRows(rowsOfHalf), timeCol(timeColumn), strip(new SpanStrip), note(new QLabel), beforeSunrise(new QLabel) {
+    : PageView(parent),
+      halfRows(rowsOfHalf),
+      timeCol(timeColumn),
+      exactHead(new QLabel),
+      strip(new SpanStrip),
+      note(new QLabel),
+      beforeSunrise(new QLabel) {
   setObjectName(names.page);
   std::array<Card *, 2> cards{};
   for (size_t half = 0; half < 2; ++half) {
@@ -32,16 +38,29 @@ DayNightView::DayNightView(const Names &names, std::vector<CaptionTable::Column>
     tables[half] = new CaptionTable(columns, halfRows, static_cast<int>(half) * halfRows);
     cards[half]->Body()->addWidget(titles[half]);
     cards[half]->Body()->addWidget(tables[half], 1);
+    noParts[half] = new QLabel;
+    noParts[half]->setObjectName(QStringLiteral("lblNoParts%1").arg(half));
+    noParts[half]->setProperty("role", QStringLiteral("warn"));
+    noParts[half]->setContentsMargins(10, 4, 10, 4);
+    noParts[half]->setWordWrap(true);
+    noParts[half]->hide();
+    cards[half]->Body()->addWidget(noParts[half]);
     cards[half]->Body()->addStretch(0);
   }
   note->setObjectName(names.note);
   beforeSunrise->setObjectName(QStringLiteral("lblBeforeSunrise"));
   beforeSunrise->setText(tr("It is before sunrise: the periods of the day before are still running."));
   beforeSunrise->setProperty("role", QStringLiteral("warn"));
+  exactHead->setObjectName(QStringLiteral("lblExactHead"));
+  exactHead->setProperty("role", QStringLiteral("caption"));
+  exactHead->setWordWrap(true);
+  exactHead->setContentsMargins(Grid::Gap, 0, Grid::Gap, 0);
+  exactHead->hide();
   auto *content = new QWidget;
   auto *layout = new QVBoxLayout(content);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(Grid::Gap);
+  layout->addWidget(exactHead);
   layout->addWidget(new SideBySide(cards[0], cards[1]), 1);
   auto *below = new Card;
   below->Body()->addWidget(strip);
@@ -74,29 +93,46 @@ void DayNightView::MarkRunning(int row, int markColumn, const QString &word) {
     tables[static_cast<size_t>(half)]->SetRunningRow(row >= 0 && row / halfRows == half ? RowOf(row) : -1);
 }
 
-void DayNightView::SetStrip(SpanStrip::Span span, const QString &name) {
+void DayNightView::SetStrip(SpanStrip::Span span, const QString &name, StripPlace place) {
+  hasStrip = !span.parts.empty();
+  stripPlace = place;
   strip->setAccessibleName(name);
   strip->SetSpan(std::move(span));
-  stripCard->show();
+  ShowStrip();
+}
+
+void DayNightView::ShowStrip() {
+  stripCard->setVisible(hasStrip && (stripPlace == StripPlace::Always || sizeShown == CaptionTable::TextSize::Large));
+}
+
+void DayNightView::SetExact(const std::optional<ExactFrame> &frame) {
+  exactHead->setText(frame ? frame->head : QString());
+  exactHead->setVisible(frame.has_value());
+  for (size_t half = 0; half < 2; ++half) {
+    noParts[half]->setText(frame ? frame->none[half] : QString());
+    noParts[half]->setVisible(!noParts[half]->text().isEmpty());
+    tables[half]->setVisible(noParts[half]->text().isEmpty());
+  }
 }
 
 void DayNightView::SetBeforeSunrise(bool before) { beforeSunrise->setVisible(before); }
 
 void DayNightView::ApplyFonts(const SetFonts &fonts) {
   fontsShown = fonts;
-  roomyShown = IsRoomy();
+  sizeShown = TextSize();
+  const bool large = sizeShown == CaptionTable::TextSize::Large;
   for (size_t half = 0; half < 2; ++half) {
-    fonts.SetSmallFont(*titles[half]);
-    tables[half]->ApplyFonts(fonts, roomyShown);
+    for (QLabel *line : {titles[half], noParts[half]}) large ? fonts.SetNormalFont(*line) : fonts.SetSmallFont(*line);
+    tables[half]->ApplyFonts(fonts, sizeShown);
   }
-  fonts.SetSmallFont(*strip);
-  fonts.SetSmallFont(*note);
-  fonts.SetSmallFont(*beforeSunrise);
+  for (QWidget *line : std::initializer_list<QWidget *>{exactHead, strip, note, beforeSunrise})
+    large ? fonts.SetNormalFont(*line) : fonts.SetSmallFont(*line);
+  ShowStrip();
 }
 
-bool DayNightView::IsRoomy() const { return height() >= RoomyHeight && width() >= RoomyWidth; }
+CaptionTable::TextSize DayNightView::TextSize() const { return CaptionTable::TextSizeFor(size(), Roomy); }
 
 void DayNightView::resizeEvent(QResizeEvent *event) {
   PageView::resizeEvent(event);
-  if (IsRoomy() != roomyShown) ApplyFonts(SetFonts(fontsShown));
+  if (TextSize() != sizeShown) ApplyFonts(SetFonts(fontsShown));
 }

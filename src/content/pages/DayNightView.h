@@ -3,8 +3,10 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <vector>
 
+#include "analysis/ExactTimes.h"
 #include "content/SetFonts.h"
 #include "content/pages/CaptionTable.h"
 #include "content/pages/PageView.h"
@@ -40,20 +42,28 @@ class DayNightView : public PageView {
   // row: of the whole day, -1 for none. word: "now 9:05", or the moment's time; it stands in the mark column.
   void MarkRunning(int row, int markColumn, const QString &word);
   // The day and the night as a bar under the two cards; a page that does not call it has none.
-  void SetStrip(SpanStrip::Span span, const QString &name);
+  enum class StripPlace { Always, WhereRoomy };
+  void SetStrip(SpanStrip::Span span, const QString &name, StripPlace place = StripPlace::Always);
+  // Says that the times are exact; a half that the day has not shows the reason in place of its rows.
+  void SetExact(const std::optional<ExactFrame> &frame);
   // Says that the periods of the day before still run.
   void SetBeforeSunrise(bool before);
 
  private:
-  bool IsRoomy() const;
+  CaptionTable::TextSize TextSize() const;
+  void ShowStrip();
 
   SetFonts fontsShown;
-  bool roomyShown = false;
+  CaptionTable::TextSize sizeShown = CaptionTable::TextSize::Small;
+  bool hasStrip = false;
+  StripPlace stripPlace = StripPlace::Always;
   int halfRows;
   int timeCol;
   QString noteWords;
   std::array<QLabel *, 2> titles{};
   std::array<CaptionTable *, 2> tables{};
+  std::array<QLabel *, 2> noParts{};
+  QLabel *exactHead;
   SpanStrip *strip;
   QWidget *stripCard;
   QLabel *note;

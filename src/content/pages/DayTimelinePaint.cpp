@@ -15,7 +15,11 @@ constexpr double BarHeight = 1.7, LaneGap = 0.75, ApartGap = 0.5, LevelGap = 0.2
 using Tone = ExactDayPage::Tone;
 
 QColor InkOf(Tone tone, const PaintInks &inks) {
-  return tone == Tone::Good ? inks.good : tone == Tone::Bad ? inks.bad : tone == Tone::Light ? inks.gold : inks.maroon;
+  return tone == Tone::Good    ? inks.good
+         : tone == Tone::Bad   ? inks.bad
+         : tone == Tone::Light ? inks.gold
+         : tone == Tone::Note  ? inks.muted
+                               : inks.maroon;
 }
 
 }  // namespace
@@ -113,6 +117,7 @@ void DayTimelinePaint::PaintHours(QPainter &painter, const QRectF &scale, const 
 }
 
 void DayTimelinePaint::PaintBar(QPainter &painter, const QRectF &at, const ExactDayPage::Bar &bar, const PaintInks &inks) const {
+  if (bar.tone == Tone::Note) return;
   painter.setPen(QPen(InkOf(bar.tone, inks), text * 0.07));
   painter.setBrush(bar.tone == Tone::Good ? inks.goodBack : bar.tone == Tone::Bad ? inks.badBack : inks.card);
   const double inset = text * 0.035, round = std::min(text * 0.3, at.width() / 3);

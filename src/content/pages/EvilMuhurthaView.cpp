@@ -12,15 +12,27 @@
 #include "content/Theme.h"
 #include "content/pages/CaptionTable.h"
 #include "content/pages/Card.h"
+#include "content/pages/ExactSpan.h"
 #include "content/pages/PageScroll.h"
 #include "content/pages/PeriodClock.h"
 #include "content/pages/SpanStrip.h"
 
 namespace {
 
-constexpr int RoomyHeight = 560, RoomyWidth = 600;  // pixels from which the rows take the normal size
+constexpr QSize Roomy(600, 560);  // pixels from which the rows take the normal size
 
 enum Column { Name, Begin, End, Mark };
+enum Item { Times, Strip, Rest };  // of the page, from the top
+
+// The house rule's day from sunrise to sunset, in minutes of the clock.
+SpanStrip::Span HouseDay(const clsPlanets &chart, const QDateTime &moment) {
+  SpanStrip::Span day;
+  day.from = PeriodClock::MinutesOfDay(chart.SunRiseTime());
+  day.to = PeriodClock::MinutesOfDay(chart.SunSetTime());
+  day.moment = moment.time().hour() * 60 + moment.time().minute();
+  day.momentWord = PeriodClock::Word(moment);
+  return day;
+}
 
 // The elements of each row, less the ending of the column.
 constexpr const char *Elements[4] = {"lblKulik", "lblKalBl", "lblYamGhan", "lblKantak"};
@@ -28,7 +40,7 @@ constexpr const char *Elements[4] = {"lblKulik", "lblKalBl", "lblYamGhan", "lblK
 }  // namespace
 
 EvilMuhurthaView::EvilMuhurthaView(QWidget *parent)
-    : PageView(parent), description(new QLabel), stripTitle(new QLabel), strip(new SpanStrip) {
+    : PageView(parent), description(new QLabel), exactHead(new QLabel), stripTitle(new QLabel), strip(new SpanStrip) {
   setObjectName(QStringLiteral("framKulik"));
   setAccessibleName(tr("Periods of the day to keep clear of"));
   table = new CaptionTable({{.element = QStringLiteral("lblMuhurtha"), .head = QStringLiteral("lblMuhurthaName"), .strong = true},
@@ -47,6 +59,11 @@ EvilMuhurthaView::EvilMuhurthaView(QWidget *parent)
   description->setProperty("role", QStringLiteral("caption"));
   description->setWordWrap(true);
   description->setContentsMargins(10, 4, 10, 4);
+  exactHead->setObjectName(QStringLiteral("lblExactHead"));
+  exactHead->setProperty("role", QStringLiteral("caption"));
+  exactHead->setWordWrap(true);
+  exactHead->setContentsMargins(10, 4, 10, 0);
+  exactHead->hide();
   stripTitle->setText(tr("From sunrise to sunset"));
   stripTitle->setProperty("role", QStringLiteral("head"));
   QFont bold = stripTitle->font();
@@ -54,19 +71,23 @@ EvilMuhurthaView::EvilMuhurthaView(QWidget *parent)
   stripTitle->setFont(bold);
 
   auto *times = new Card;
+  times->Body()->addWidget(exactHead);
   times->Body()->addWidget(description);
   times->Body()->addWidget(table, 1);
+  times->Body()->addStretch(0);
   auto *day = new Card;
+  stripCard = day;
   day->Body()->setContentsMargins(Grid::CardPadding, Grid::Gap + 4, Grid::CardPadding, Grid::Gap + 4);
   day->Body()->addWidget(stripTitle);
-  day->Body()->addWidget(strip);
+  day->Body()->addWidget(strip, 1);
+  day->Body()->addStretch(0);
   auto *content = new QWidget;
-  auto *layout = new QVBoxLayout(content);
-  layout->setContentsMargins(0, 0, 0, 0);
-  layout->setSpacing(Grid::Gap * 2);
-  layout->addWidget(times);
-  layout->addWidget(day);
-  layout->addStretch(1);
+  column = new QVBoxLayout(content);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(Grid::Gap * 2);
+  column->addWidget(times);
+  column->addWidget(day);
+  column->addStretch(1);
   PageScroll::Fill(this, content);
 }
 
@@ -76,13 +97,11 @@ void EvilMuhurthaView::Fill(SelvaniDailyMod &session) {
   table->Head(Begin).setText(page.lblStartTime);
   table->Head(End).setText(page.lblEndTime);
   description->setText(page.lblKulikadiDesc);
+  exactHead->setText(page.exact ? page.exact->head : QString());
+  exactHead->setVisible(page.exact.has_value());
   const QDateTime &moment = session.AnalysisMoment();
-  SpanStrip::Span day;
-  day.from = PeriodClock::MinutesOfDay(session.TodayChart().SunRiseTime());
-  day.to = PeriodClock::MinutesOfDay(session.TodayChart().SunSetTime());
+  SpanStrip::Span day = page.exact ? ExactSpan::OfDaylight(*page.exact, PeriodClock::Word(moment)) : HouseDay(session.TodayChart(), moment);
   day.ground = SpanStrip::Tone::Good;
-  day.moment = moment.time().hour() * 60 + moment.time().minute();
-  day.momentWord = PeriodClock::Word(moment);
   day.namesAbove = true;
   int running = -1;
   QStringList spoken;
@@ -92,37 +111,44 @@ void EvilMuhurthaView::Fill(SelvaniDailyMod &session) {
     table->Cell(row, Begin).setText(period.start);
     table->Cell(row, End).setText(period.end);
     const double endClock = period.startClock + period.length;
-    const bool now = PeriodClock::Holds(period.startClock, endClock, moment.time());
+    const bool now = page.exact ? page.exact->now >= period.begins && page.exact->now < period.ends
+                                : PeriodClock::Holds(period.startClock, endClock, moment.time());
     // Two of them may overlap; the first row of those that run is lit, each has the word.
     if (now && running < 0) running = row;
     table->Cell(row, Mark).setText(now ? day.momentWord : QString());
     table->SetTone(row, Mark, CaptionTable::Tone::Warn);
     table->SetTone(row, Name, CaptionTable::Tone::Bad);
-    const int begin = PeriodClock::MinutesOfDay(period.startClock), end = PeriodClock::MinutesOfDay(endClock);
-    if (begin < end) {
-      day.parts.push_back({double(begin), double(end), period.head, SpanStrip::Tone::Bad});
-      day.from = std::min(day.from, double(begin));
-      day.to = std::max(day.to, double(end));
-    }
+    const double begin = page.exact ? period.begins : PeriodClock::MinutesOfDay(period.startClock);
+    const double end = page.exact ? period.ends : PeriodClock::MinutesOfDay(endClock);
     spoken << tr("%1 from %2 to %3").arg(period.head, period.start, period.end);
+    if (begin >= end) continue;
+    day.parts.push_back({begin, end, period.head, SpanStrip::Tone::Bad, {}, tr("%1 to %2").arg(period.start, period.end)});
+    day.from = std::min(day.from, begin);
+    day.to = std::max(day.to, end);
   }
   table->SetRunningRow(running);
   strip->setAccessibleName(stripTitle->text());
   strip->setAccessibleDescription(spoken.join(QStringLiteral(", ")));
-  day.ticks = SpanStrip::HourTicks(int(day.from), int(day.to));
+  if (!page.exact) day.ticks = SpanStrip::HourTicks(int(day.from), int(day.to));
+  stripCard->setVisible(day.from < day.to && !day.parts.empty());
   strip->SetSpan(std::move(day));
 }
 
 void EvilMuhurthaView::ApplyFonts(const SetFonts &fonts) {
   fontsShown = fonts;
-  roomyShown = IsRoomy();
-  table->ApplyFonts(fonts, roomyShown);
-  for (QWidget *caption : std::initializer_list<QWidget *>{description, stripTitle, strip}) fonts.SetSmallFont(*caption);
+  sizeShown = TextSize();
+  const bool large = sizeShown == CaptionTable::TextSize::Large;
+  table->ApplyFonts(fonts, sizeShown);
+  strip->SetTall(large);
+  for (const auto &[item, stretch] : {std::pair{Times, 3}, {Strip, 2}}) column->setStretch(item, large ? stretch : 0);
+  column->setStretch(Rest, large ? 0 : 1);
+  for (QWidget *caption : std::initializer_list<QWidget *>{description, exactHead, stripTitle, strip})
+    large ? fonts.SetNormalFont(*caption) : fonts.SetSmallFont(*caption);
 }
 
-bool EvilMuhurthaView::IsRoomy() const { return height() >= RoomyHeight && width() >= RoomyWidth; }
+CaptionTable::TextSize EvilMuhurthaView::TextSize() const { return CaptionTable::TextSizeFor(size(), Roomy); }
 
 void EvilMuhurthaView::resizeEvent(QResizeEvent *event) {
   PageView::resizeEvent(event);
-  if (IsRoomy() != roomyShown) ApplyFonts(SetFonts(fontsShown));
+  if (TextSize() != sizeShown) ApplyFonts(SetFonts(fontsShown));
 }

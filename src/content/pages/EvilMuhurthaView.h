@@ -5,11 +5,12 @@
 #include <array>
 
 #include "content/SetFonts.h"
+#include "content/pages/CaptionTable.h"
 #include "content/pages/PageView.h"
 
-class CaptionTable;
 class SpanStrip;
 class QLabel;
+class QVBoxLayout;
 
 // The four periods to keep clear of, as a table and on a strip of the day.
 class EvilMuhurthaView : public PageView {
@@ -25,12 +26,15 @@ class EvilMuhurthaView : public PageView {
   void resizeEvent(QResizeEvent *event) override;
 
  private:
-  bool IsRoomy() const;
+  CaptionTable::TextSize TextSize() const;
 
   SetFonts fontsShown;
-  bool roomyShown = false;
+  CaptionTable::TextSize sizeShown = CaptionTable::TextSize::Small;
   CaptionTable *table;
   QLabel *description;
+  QLabel *exactHead;
   QLabel *stripTitle;
   SpanStrip *strip;
+  QVBoxLayout *column;
+  QWidget *stripCard;
 };

@@ -125,7 +125,7 @@ void MonthPaint::PaintCell(QPainter &painter, const QRectF &at, const MonthPage:
   const double pad = Padding * text, width = at.width() - 2 * pad, left = at.left() + pad;
   double y = at.top() + pad;
   painter.setFont(date);
-  painter.setPen(cell.isToday ? inks.saffron : inks.ink);
+  painter.setPen(cell.isToday ? inks.accent : inks.ink);
   painter.drawText(QRectF(left, y, width, DateHeight * text), Qt::AlignLeft | Qt::AlignVCenter, QString::number(cell.date.day()));
   const auto write = [&](const QFont &with, const QColor &colour, const QString &words) {
     const double high = WrappedHeight(with, words, width);
@@ -144,7 +144,7 @@ void MonthPaint::PaintCell(QPainter &painter, const QRectF &at, const MonthPage:
   if (!beside) write(font, inks.muted, cell.sun);
   write(bold, inks.maroon, cell.tithi);
   write(font, inks.ink, cell.nakshatra);
-  for (const QString &mark : cell.marks) write(bold, inks.saffron, mark);
+  for (const QString &mark : cell.marks) write(bold, inks.accent, mark);
 }
 
 void MonthPaint::PaintSheet(QPainter &painter, const QRectF &room, const MonthPage &page) {

@@ -77,11 +77,11 @@ OverviewView::OverviewView(QWidget *parent) : PageView(parent) {
                                               {"lblYogaHead", "lblYogaVal", "value"},
                                               {"lblKaranHead", "lblKaranVal", "value"}}),
                    1);
-  facts->addWidget(FactsCard(Label("lblOthFactors", "head"), {{"lblSunRiseHead", "lblSunriseVal", "value", true},
-                                                              {"lblSunSetHead", "lblSunsetVal", "value", true},
-                                                              {"lblRahuKaalHead", "lblRahuKaalVal", "bad", true},
-                                                              {"lblYamGhantaHead", "lblYamghantaVal", "bad", true},
-                                                              {"lblCurDashaHead", "lblCurDashaVal", "value"}}),
+  facts->addWidget(FactsCard(FactorsHead(), {{"lblSunRiseHead", "lblSunriseVal", "value", true},
+                                             {"lblSunSetHead", "lblSunsetVal", "value", true},
+                                             {"lblRahuKaalHead", "lblRahuKaalVal", "bad", true},
+                                             {"lblYamGhantaHead", "lblYamghantaVal", "bad", true},
+                                             {"lblCurDashaHead", "lblCurDashaVal", "value"}}),
                    1);
   columns->addLayout(facts, 26);
 }
@@ -95,17 +95,35 @@ QLabel *OverviewView::Label(const char *name, const char *role) {
   return label;
 }
 
+void OverviewView::MakeExactLink(QPushButton &link) {
+  link.setProperty("role", "link");
+  link.setStyleSheet(QStringLiteral("padding: 0; min-height: 0;"));
+  link.setCursor(Qt::PointingHandCursor);
+  link.hide();
+  connect(&link, &QPushButton::clicked, this, [this] { emit GoToPage(ExactDayPageNumber); });
+}
+
 QPushButton *OverviewView::ExactLink(const char *value) {
   auto *link = new QPushButton(this);
   link->setObjectName(QStringLiteral("exact_") + QLatin1String(value));
-  link->setProperty("role", "link");
-  link->setStyleSheet(QStringLiteral("padding: 0; min-height: 0;"));
-  link->setCursor(Qt::PointingHandCursor);
   link->setToolTip(tr("The time by the sky itself. Opens the exact day."));
-  link->hide();
-  connect(link, &QPushButton::clicked, this, [this] { emit GoToPage(ExactDayPageNumber); });
+  MakeExactLink(*link);
   exactLinks.insert(QLatin1String(value), link);
   return link;
+}
+
+// The card's head, and below it what says that its times are exact.
+QWidget *OverviewView::FactorsHead() {
+  auto *head = new QWidget(this);
+  auto *layout = new QVBoxLayout(head);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(0);
+  layout->addWidget(Label("lblOthFactors", "head"));
+  exactHead = new QPushButton(head);
+  exactHead->setObjectName(QStringLiteral("lblExactHead"));
+  MakeExactLink(*exactHead);
+  layout->addWidget(exactHead, 0, Qt::AlignLeft | Qt::AlignAbsolute);
+  return head;
 }
 
 QWidget *OverviewView::FactsCard(QWidget *head, const QList<RowNames> &rows) {
@@ -148,7 +166,12 @@ void OverviewView::Fill(SelvaniDailyMod &session) {
     if (QLabel *label = labels.value(element)) label->setText(caption);
   }
   lblTodPanchang->setText(page.lblTodPanchang);
-  const ExactBesidePage exact = ExactBeside(session.TodayChart());
+  exactHead->setText(page.lblExactBrief);
+  exactHead->setToolTip(page.lblExactHead);
+  exactHead->setAccessibleName(page.lblExactHead);
+  exactHead->setVisible(page.IsExact());
+  // Exact times have no others beside them.
+  const ExactBesidePage exact = page.IsExact() ? ExactBesidePage() : ExactBeside(session.TodayChart());
   const auto beside = [this](const char *value, const QString &text) {
     QPushButton *link = exactLinks.value(QLatin1String(value));
     link->setText(text.isEmpty() ? QString() : tr("exact %1").arg(text));
@@ -189,6 +212,7 @@ void OverviewView::ApplyFonts(const SetFonts &fonts) {
   columns->setStretch(0, narrowShown ? 23 : 27);
   columns->setStretch(1, narrowShown ? 30 : 26);
   for (QPushButton *link : exactLinks) fonts.SetSmallFont(*link);
+  fonts.SetSmallFont(*exactHead);
   for (QLabel *info : {chartInfo, momentInfo}) fonts.SetSmallFont(*info);
   fonts.SetKundaliFont(*kunBirth);
   fonts.SetKundaliFont(*kunTransit);

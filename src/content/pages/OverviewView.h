@@ -36,6 +36,8 @@ class OverviewView : public PageView {
   QLabel *Label(const char *name, const char *role);
   // A link to the exact day in a row that has an exact twin; empty and hidden where the two agree.
   QPushButton *ExactLink(const char *value);
+  void MakeExactLink(QPushButton &link);
+  QWidget *FactorsHead();
   QWidget *FactsCard(QWidget *head, const QList<RowNames> &rows);
 
   bool IsNarrow() const;
@@ -48,6 +50,7 @@ class OverviewView : public PageView {
   QHash<QString, QLabel *> labels;
   QHash<QString, QPushButton *> exactLinks;  // by the value that they stand beside
   QPushButton *lblTodPanchang;
+  QPushButton *exactHead;  // says that the times are exact, and leads to the exact day
   QLabel *chartInfo, *momentInfo;
   Kundali *kunBirth, *kunTransit;
 };

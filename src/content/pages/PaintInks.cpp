@@ -20,8 +20,11 @@ PaintInks From(const ChartPalette &chart) {
   inks.maroon = chart.maroon;
   inks.saffron = chart.saffron;
   inks.gold = chart.gold;
-  inks.day = Mixed(chart.card, chart.gold, 0.11);
-  inks.night = Mixed(chart.card, chart.ink, 0.07);
+  inks.accent = chart.accent;
+  // The night is darker than the card, on a dark ground too.
+  const bool dark = chart.card.lightness() < 128;
+  inks.day = Mixed(chart.card, chart.gold, dark ? 0.16 : 0.11);
+  inks.night = dark ? Mixed(chart.card, Qt::black, 0.4) : Mixed(chart.card, chart.ink, 0.07);
   return inks;
 }
 

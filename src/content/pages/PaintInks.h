@@ -7,6 +7,7 @@
 // The colours of a drawing that is shown on the screen and on paper alike.
 struct PaintInks {
   QColor card, line, ink, muted, maroon, saffron, gold;
+  QColor accent;  // saffron where it writes: darker on a light ground
   QColor good, goodBack, bad, badBack;
   QColor day, night;  // grounds of daylight and of the night
 

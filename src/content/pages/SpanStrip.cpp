@@ -11,7 +11,7 @@ namespace {
 
 constexpr int Side = 20;  // room for the captions at both ends
 constexpr int Day = 24 * 60;
-constexpr double BarHeight = 2.4;  // in text heights
+constexpr double BarHeight = 2.4, TallBar = 4 * BarHeight;  // in text heights
 
 QColor GroundOf(SpanStrip::Tone tone) {
   const Theme &theme = Theme::Current();
@@ -51,6 +51,19 @@ QSize SpanStrip::sizeHint() const {
   return {240, (shown.namesAbove ? 2 * text + 6 : 3) + qRound(text * BarHeight) + 2 * text + 10};
 }
 
+void SpanStrip::SetTall(bool tall) {
+  if (tall == isTall) return;
+  isTall = tall;
+  setSizePolicy(QSizePolicy::Expanding, tall ? QSizePolicy::Expanding : QSizePolicy::Fixed);
+  updateGeometry();
+  update();
+}
+
+double SpanStrip::BarPixels() const {
+  const int text = fontMetrics().height(), usual = qRound(text * BarHeight);
+  return isTall ? std::clamp<double>(usual + height() - sizeHint().height(), usual, text * TallBar) : text * BarHeight;
+}
+
 double SpanStrip::At(double place) const { return Side + (place - shown.from) * (width() - 2 * Side) / (shown.to - shown.from); }
 
 QRectF SpanStrip::Write(QPainter &painter, double centre, double y, const QString &words) const {
@@ -68,7 +81,7 @@ void SpanStrip::paintEvent(QPaintEvent *) {
   painter.setRenderHint(QPainter::Antialiasing);
   const int text = fontMetrics().height();
   const double top = shown.namesAbove ? 2 * text + 6 : 3;
-  const double bar = text * BarHeight;
+  const double bar = BarPixels();
   if (shown.ground != Tone::Plain) {
     painter.setPen(QPen(theme.chart.line, 1));
     painter.setBrush(GroundOf(shown.ground));
@@ -88,7 +101,7 @@ void SpanStrip::paintEvent(QPaintEvent *) {
 
 void SpanStrip::PaintParts(QPainter &painter, double top) const {
   const int text = fontMetrics().height();
-  const double bar = text * BarHeight;
+  const double bar = BarPixels();
   std::vector<Part> sorted = shown.parts;
   std::sort(sorted.begin(), sorted.end(), [](const Part &a, const Part &b) { return a.begin < b.begin; });
   double usedTo = -1;
@@ -98,17 +111,27 @@ void SpanStrip::PaintParts(QPainter &painter, double top) const {
     painter.setBrush(GroundOf(part.tone));
     painter.drawRoundedRect(room, 5, 5);
     painter.setPen(InkOf(part.tone));
+    const bool tall = bar >= 3 * text;
     const double wide = fontMetrics().horizontalAdvance(part.name);
+    const double widest = tall ? std::max<double>(wide, fontMetrics().horizontalAdvance(part.detail)) : wide;
     QRectF inside = room;
     // A name makes way for the line of the moment, to the wider side of it.
-    if (shown.moment > part.begin && shown.moment < part.end && std::abs(At(shown.moment) - room.center().x()) < wide / 2 + 4) {
+    if (shown.moment > part.begin && shown.moment < part.end && std::abs(At(shown.moment) - room.center().x()) < widest / 2 + 4) {
       if (At(shown.moment) > room.center().x())
         inside.setRight(At(shown.moment));
       else
         inside.setLeft(At(shown.moment));
     }
-    if (wide + 8 <= inside.width()) {
-      Write(painter, inside.center().x(), inside.center().y() - text / 2.0, part.name);
+    const auto fits = [&](const QString &words) {
+      return !words.isEmpty() && fontMetrics().horizontalAdvance(words) + 8 <= inside.width();
+    };
+    const bool withDetail = tall && fits(part.detail);
+    const double middle = inside.center().y() - text / 2.0 - (withDetail ? text * 0.6 : 0);
+    if (withDetail) Write(painter, inside.center().x(), middle + text * 1.2, part.detail);
+    if (fits(part.name)) {
+      Write(painter, inside.center().x(), middle, part.name);
+    } else if (fits(part.brief)) {
+      Write(painter, inside.center().x(), middle, part.brief);
     } else if (shown.namesAbove) {
       const bool meets = room.center().x() - wide / 2 < usedTo + 8;
       const QRectF written = Write(painter, room.center().x(), meets ? 0 : text + 2, part.name);

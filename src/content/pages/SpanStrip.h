@@ -18,6 +18,8 @@ class SpanStrip : public QWidget {
     double begin = 0, end = 0;
     QString name;
     Tone tone = Tone::Plain;
+    QString brief = {};   // where the name has no room; empty for none
+    QString detail = {};  // below the name on a tall strip, where it has room
   };
   struct Tick {
     double at = 0;
@@ -36,6 +38,8 @@ class SpanStrip : public QWidget {
   explicit SpanStrip(QWidget *parent = nullptr);
 
   void SetSpan(Span span);
+  // The bar takes the height that there is, up to four times its own.
+  void SetTall(bool tall);
   const Span &Shown() const { return shown; }
 
   QSize sizeHint() const override;
@@ -55,5 +59,8 @@ class SpanStrip : public QWidget {
   double At(double place) const;
   QRectF Write(QPainter &painter, double centre, double y, const QString &words) const;
 
+  double BarPixels() const;
+
   Span shown;
+  bool isTall = false;
 };
