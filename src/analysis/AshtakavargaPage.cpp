@@ -24,6 +24,18 @@ QString SignsWith(int points, const AshtakavargaPage &page) {
 
 }  // namespace
 
+double AshtakavargaPage::Row::Share(int sign) const {
+  return std::clamp(double(points[static_cast<size_t>(sign)] - least) / std::max(1, most - least), 0.0, 1.0);
+}
+
+KundaliPage AshtakavargaPage::ChartOf(size_t row) const {
+  KundaliPage chart;
+  chart.houseNumber = ascendantSign;
+  chart.planets.push_back({ascendantSign, ascendantName});
+  for (int sign = 1; sign <= 12; ++sign) chart.planets.push_back({sign, QString::number(rows[row].points[static_cast<size_t>(sign)])});
+  return chart;
+}
+
 std::unique_ptr<clsPlanets> WithAshtakavarga(const clsPlanets &chart) {
   auto counted = std::make_unique<clsPlanets>(chart.Settings());
   for (int point = 0; point <= LastPoint; ++point) counted->SetPlanetLongi(point, chart.PlanetLongi(point));
@@ -52,6 +64,9 @@ AshtakavargaPage FillAshtakavarga(const clsPlanets &chart) {
   page.lblSumHead = StudyWord(chart, "Sum");
   const std::array<int, 13> &points = page.rows[AshtakavargaPage::Total].points;
   const auto [fewest, most] = std::minmax_element(points.begin() + 1, points.end());
+  // A body gives a sign up to eight points, one by each contributor. The total has no fixed scale: its own ends are the scale's.
+  page.rows[AshtakavargaPage::Total].least = *fewest;
+  page.rows[AshtakavargaPage::Total].most = *most;
   page.lblMost = StudyWord(chart, "MostPoints").arg(SignsWith(*most, page));
   page.lblFewest = StudyWord(chart, "FewestPoints").arg(SignsWith(*fewest, page));
   return page;

@@ -6,6 +6,8 @@
 #include <array>
 #include <memory>
 
+#include "analysis/KundaliPage.h"
+
 class clsPlanets;
 
 // The benefic points by sign: nine bodies as reference and their total, which leaves out the ascendant's row.
@@ -16,6 +18,10 @@ struct AshtakavargaPage {
     QString name;
     std::array<int, 13> points{};  // by sign; entry 0 is not used
     int sum = 0;
+    int least = 0, most = 8;  // of the colouring
+
+    // How warm a sign's number is coloured, 0 to 1.
+    double Share(int sign) const;
   };
 
   std::array<Row, Rows> rows;  // Sun, Moon, Mars, Mercury, Jupiter, Venus, Saturn, Rahu, ascendant, total
@@ -24,6 +30,9 @@ struct AshtakavargaPage {
   std::array<QString, 13> signName, narrowSign;  // by sign; entry 0 is empty
   QString lblSumHead;
   QString lblMost, lblFewest;  // signs with the most and the fewest points of the total
+
+  // A row's points in their signs, and the ascendant.
+  KundaliPage ChartOf(size_t row) const;
 };
 
 AshtakavargaPage FillAshtakavarga(const clsPlanets &chart);

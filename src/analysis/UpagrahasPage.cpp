@@ -52,6 +52,10 @@ UpagrahasPage FillUpagrahas(const clsPlanets &chart) {
   page.lblDegreesHead = chart.GetGenText(QStringLiteral("Degrees"));
   page.lblNakHead = chart.GetGenText(QStringLiteral("Nak"));
   page.lblPadaHead = chart.GetGenText(QStringLiteral("Pada"));
+  page.lblJaimini = StudyWord(chart, "JaiminiLine")
+                        .arg(chart.PlanetNameFull(chart.AtmaKaraka()), chart.ConvertRashi(chart.AtmaKarakaSign()),
+                             chart.ConvertRashi(chart.KarakamsaLagna()), chart.ConvertRashi(chart.FindAroodhaLagna()),
+                             chart.ConvertRashi(chart.FindUpaPadaLagna()));
   page.chosenWord = StudyWord(chart, "YourSetting");
   return page;
 }

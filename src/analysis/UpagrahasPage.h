@@ -8,7 +8,7 @@
 class clsPlanets;
 
 // The seventeen upagrahas, in both ways of casting those that follow from the time of day: at the end of their part
-// (mode 1) and at its beginning.
+// (mode 1) and at its beginning; and the points of Jaimini.
 struct UpagrahasPage {
   static constexpr int Points = 17;
 
@@ -24,6 +24,7 @@ struct UpagrahasPage {
   std::array<Mode, 2> modes;  // end, beginning
   QString lblNameHead, lblRashiHead, lblDegreesHead, lblNakHead, lblPadaHead;
   QString chosenWord;
+  QString lblJaimini;  // the atmakaraka with its sign, and the karakamsa, the arudha lagna and the upapada
 };
 
 UpagrahasPage FillUpagrahas(const clsPlanets &chart);

@@ -11,6 +11,7 @@
 
 #include "platform/Errors.h"
 #include "platform/Numbers.h"
+#include "reports/ReportTopics.h"
 
 namespace {
 
@@ -172,7 +173,13 @@ DailyOptions DailyOptions::Parse(const QStringList &arguments) {
   option("month", "Print a month of the exact panchang in place of the day.", "YYYY-MM");
   option("ics", "Write that month, or the day's, as a calendar file and print nothing.", "FILE");
   option("pdf", "Write the daily report to a PDF and print nothing.", "FILE");
-  option("topics", "The topics of the report, parted by commas, as in FrontPage,Rashifala; all when left out.", "KEY,KEY");
+  const std::span<const ReportTopics::Group> groups = ReportTopics::Groups();
+  parser.addOption(QCommandLineOption(
+      QStringLiteral("topics"),
+      QStringLiteral("The topics of the report, parted by commas, as in FrontPage,Rashifala. Main is the daily report, printed when this "
+                     "is left out: %1. Study is all the study pages: %2.")
+          .arg(ReportTopics::KeysOf(groups[0]), ReportTopics::KeysOf(groups[1])),
+      QStringLiteral("KEY,KEY")));
   option("restore", "Put the kept copies of damaged stores back in their place and end; what lay there is moved aside.");
   option("app-dir", "The folder that holds the data folder EPHE.", "DIR");
   option("help", "Show this help and end.");

@@ -32,13 +32,71 @@ QJsonArray Pairs(int firstOther, int lastOther, Answer answer) {
   return Each(0, LastPoint, [&](int point) { return Each(firstOther, lastOther, [&](int other) { return answer(point, other); }); });
 }
 
-QJsonValue OrNull(const std::optional<int> &number) { return number ? QJsonValue(*number) : QJsonValue(); }
+template <typename Value>
+QJsonValue OrNull(const std::optional<Value> &value) {
+  return value ? QJsonValue(*value) : QJsonValue();
+}
+
+// A member's answers for the points first to last under its name.
+template <typename Answer>
+struct Member {
+  const char *name;
+  Answer (clsPlanets::*member)(int) const;
+};
+
+template <typename Members>
+void Insert(QJsonObject &chart, const clsPlanets &planets, int first, int last, const Members &members) {
+  for (const auto &[name, member] : members)
+    chart.insert(QLatin1String(name), Each(first, last, [&, m = member](int index) { return QJsonValue((planets.*m)(index)); }));
+}
+
+// Signs and nakshatras of the ascendant and the twelve planets.
+void AddSigns(QJsonObject &chart, const clsPlanets &planets) {
+  constexpr Member<int> numbers[] = {{"PlanetRashiNum", &clsPlanets::PlanetRashiNum}, {"PlanetHouse", &clsPlanets::PlanetHouse}};
+  Insert(chart, planets, 0, LastPoint, numbers);
+  chart.insert(QStringLiteral("NakPadaPlanet"), Each(0, LastPoint, [&](int point) { return OrNull(planets.NakPadaPlanet(point)); }));
+  chart.insert(QStringLiteral("PlanetSignLord"), Each(0, LastPoint, [&](int point) { return OrNull(planets.PlanetSignLord(point)); }));
+  chart.insert(QStringLiteral("CountPlanetInSign"), Each(1, 12, [&](int sign) { return planets.CountPlanetInSign(sign); }));
+  chart.insert(QStringLiteral("SignOccupiedNum"), Each(1, 2, [&](int mode) { return planets.SignOccupiedNum(mode); }));
+  chart.insert(QStringLiteral("Nak28GetNakshatra"), planets.Nak28GetNakshatra());
+}
+
+void AddDivisions(QJsonObject &chart, const clsPlanets &planets) {
+  constexpr Member<bool> marks[] = {{"PlanetVargottama", &clsPlanets::PlanetVargottama},
+                                    {"SashtiAmshaBenefic", &clsPlanets::SashtiAmshaBenefic}};
+  constexpr Member<int> numbers[] = {{"PlanetGopuramsa", &clsPlanets::PlanetGopuramsa},
+                                     {"PlanetInNavamsha", &clsPlanets::PlanetInNavamsha},
+                                     {"NavamshSign", &clsPlanets::NavamshSign},
+                                     {"NavamshLord", &clsPlanets::NavamshLord},
+                                     {"SaptamshaLord", &clsPlanets::SaptamshaLord},
+                                     {"DashamamshaLord", &clsPlanets::DashamamshaLord},
+                                     {"DwaDashamamshaLord", &clsPlanets::DwaDashamamshaLord},
+                                     {"EkaDashamAmshaLord", &clsPlanets::EkaDashamAmshaLord},
+                                     {"DrekkanaLord", &clsPlanets::DrekkanaLord},
+                                     {"ChaturthamshLord", &clsPlanets::ChaturthamshLord},
+                                     {"PanchamAmshLord", &clsPlanets::PanchamAmshLord},
+                                     {"SastamshLord", &clsPlanets::SastamshLord},
+                                     {"VarAshtamamshaLord", &clsPlanets::VarAshtamamshaLord}};
+  Insert(chart, planets, 0, LastPoint, marks);
+  Insert(chart, planets, 0, LastPoint, numbers);
+  chart.insert(QStringLiteral("KrishAmsha"), Each(0, LastPoint, [&](int point) { return planets.KrishAmsha(point); }));
+  chart.insert(QStringLiteral("Decanate"), OrNull(planets.Decanate()));
+}
 
 void AddUpagrahas(QJsonObject &chart, const clsPlanets &planets) {
   chart.insert(QStringLiteral("UpagrahaLongi"), Each(1, LastUpagraha, [&](int n) { return planets.UpagrahaLongi(n); }));
   chart.insert(QStringLiteral("UpagrahaSign"), Each(1, LastUpagraha, [&](int n) { return planets.UpagrahaSign(n); }));
   chart.insert(QStringLiteral("UpagrahaNak"), Each(1, LastUpagraha, [&](int n) { return planets.UpagrahaNak(n); }));
   chart.insert(QStringLiteral("UpaNakPada"), Each(1, LastUpagraha, [&](int n) { return planets.UpaNakPada(n); }));
+  chart.insert(QStringLiteral("UpagrahaName"), Each(1, LastUpagraha, [&](int n) { return planets.UpagrahaName(n); }));
+  chart.insert(QStringLiteral("UpagrahaLord"), Each(1, LastUpagraha, [&](int n) { return clsPlanets::UpagrahaLord(n); }));
+  chart.insert(QStringLiteral("GulikaSign"), planets.GulikaSign());
+  constexpr std::pair<const char *, int (clsPlanets::*)() const> jaimini[] = {{"AtmaKaraka", &clsPlanets::AtmaKaraka},
+                                                                              {"AtmaKarakaSign", &clsPlanets::AtmaKarakaSign},
+                                                                              {"KarakamsaLagna", &clsPlanets::KarakamsaLagna},
+                                                                              {"FindAroodhaLagna", &clsPlanets::FindAroodhaLagna},
+                                                                              {"FindUpaPadaLagna", &clsPlanets::FindUpaPadaLagna}};
+  for (const auto &[name, member] : jaimini) chart.insert(QLatin1String(name), (planets.*member)());
 }
 
 void AddAshtakavarga(QJsonObject &chart, const clsPlanets &planets) {
@@ -50,7 +108,7 @@ void AddAshtakavarga(QJsonObject &chart, const clsPlanets &planets) {
 
 // Dignity by planet 1 to 9.
 void AddDignity(QJsonObject &chart, const clsPlanets &planets) {
-  const std::pair<const char *, bool (clsPlanets::*)(int) const> members[] = {
+  constexpr Member<bool> marks[] = {
       {"Exalted", &clsPlanets::Exalted},
       {"Debilitated", &clsPlanets::Debilitated},
       {"InOwnHouse", &clsPlanets::InOwnHouse},
@@ -59,10 +117,16 @@ void AddDignity(QJsonObject &chart, const clsPlanets &planets) {
       {"InSamaHouse", &clsPlanets::InSamaHouse},
       {"IsMoolTrikona", &clsPlanets::IsMoolTrikona},
       {"WithinOrbOfSun", &clsPlanets::WithinOrbOfSun},
+      {"CheckHighestExaltDeg", &clsPlanets::CheckHighestExaltDeg},
+      {"CheckHighestDebiDeg", &clsPlanets::CheckHighestDebiDeg},
+      {"InAdhiMitraHouse", &clsPlanets::InAdhiMitraHouse},
+      {"InAdhiSatruHouse", &clsPlanets::InAdhiSatruHouse},
   };
-  for (const auto &[name, member] : members)
-    chart.insert(QLatin1String(name), Each(1, LastDignified, [&, m = member](int planet) { return (planets.*m)(planet); }));
-  chart.insert(QStringLiteral("ExaltClassEng"), Each(1, LastDignified, [&](int planet) { return planets.ExaltClassEng(planet); }));
+  constexpr Member<QString> words[] = {
+      {"ExaltClass", &clsPlanets::ExaltClass}, {"ExaltClassEng", &clsPlanets::ExaltClassEng}, {"AstaText", &clsPlanets::AstaText}};
+  Insert(chart, planets, 1, LastDignified, marks);
+  Insert(chart, planets, 1, LastDignified, words);
+  chart.insert(QStringLiteral("GrahaMaitriNo"), planets.GrahaMaitriNo());
   chart.insert(QStringLiteral("Combust"), Each(1, LastDignified, [&](int planet) { return planets.Combust(planet).value_or(false); }));
 }
 
@@ -76,6 +140,27 @@ void AddAspects(QJsonObject &chart, const clsPlanets &planets) {
                  return clsPlanets::FindRelation(planets.PlanetLongi(a) - planets.PlanetLongi(b));
                }));
   chart.insert(QStringLiteral("PlanetOrb"), Each(0, LastPoint, [&](int planet) { return planets.PlanetOrb(planet); }));
+  chart.insert(QStringLiteral("PlanetMutOrb"), Pairs(0, LastPoint, [&](int a, int b) { return planets.PlanetMutOrb(a, b); }));
+  constexpr std::pair<const char *, bool (clsPlanets::*)(int, int) const> places[] = {{"PlanetInKendra", &clsPlanets::PlanetInKendra},
+                                                                                      {"PlanetInTrikona", &clsPlanets::PlanetInTrikona},
+                                                                                      {"PlanetInTrika", &clsPlanets::PlanetInTrika}};
+  for (const auto &[name, member] : places)
+    chart.insert(QLatin1String(name), Pairs(0, LastPoint, [&, m = member](int a, int b) { return (planets.*m)(a, b); }));
+  constexpr Member<bool> marks[] = {{"PlanetAspectedByNatBenefic", &clsPlanets::PlanetAspectedByNatBenefic},
+                                    {"PlanetAspectedByNatMalefic", &clsPlanets::PlanetAspectedByNatMalefic},
+                                    {"PlanetWithBenefic", &clsPlanets::PlanetWithBenefic},
+                                    {"PlanetWithMalefic", &clsPlanets::PlanetWithMalefic},
+                                    {"WithBenefic", &clsPlanets::WithBenefic},
+                                    {"WithMalefic", &clsPlanets::WithMalefic},
+                                    {"WithEnemy", &clsPlanets::WithEnemy},
+                                    {"PlanetInPanaphara", &clsPlanets::PlanetInPanaphara},
+                                    {"PlanetInApoklima", &clsPlanets::PlanetInApoklima}};
+  Insert(chart, planets, 0, LastPoint, marks);
+  chart.insert(QStringLiteral("AspectedByEnemy"),
+               Each(0, LastPoint, [&](int planet) { return planets.AspectedByEnemy(planet).value_or(false); }));
+  // By sign: is it looked at by the planet, if that is Mars or Saturn?
+  chart.insert(QStringLiteral("CheckMaleficAspects"),
+               Pairs(1, 12, [&](int planet, int sign) { return planets.CheckMaleficAspects(planet, sign); }));
 }
 
 void AddCompatibility(QJsonObject &chart, const clsPlanets &planets) {
@@ -125,8 +210,8 @@ QJsonObject ScoresOfDay(const ScoresPage::Scores &scores) {
 }  // namespace
 
 void AddStudy(QJsonObject &chart, const clsPlanets &planets) {
-  chart.insert(QStringLiteral("PlanetVargottama"), Each(0, LastPoint, [&](int point) { return planets.PlanetVargottama(point); }));
-  chart.insert(QStringLiteral("PlanetGopuramsa"), Each(0, LastPoint, [&](int point) { return planets.PlanetGopuramsa(point); }));
+  AddSigns(chart, planets);
+  AddDivisions(chart, planets);
   AddAshtakavarga(chart, planets);
   AddUpagrahas(chart, planets);
   AddDignity(chart, planets);

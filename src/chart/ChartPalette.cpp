@@ -12,4 +12,9 @@ ChartPalette ChartPalette::Dark() {
   return {0x1D1817, 0x272120, 0x463B35, 0xF2E9DE, 0xB5A699, 0xE58F9A, 0xF0954A, 0xD9B25F, 0xD9B25F, 0xF0954A};
 }
 
+QColor ChartPalette::Mixed(const QColor &ground, const QColor &colour, double share) {
+  const auto part = [share](int a, int b) { return qRound(a + (b - a) * share); };
+  return QColor(part(ground.red(), colour.red()), part(ground.green(), colour.green()), part(ground.blue(), colour.blue()));
+}
+
 ChartPalette ChartPalette::For(const QPalette &desktop) { return desktop.color(QPalette::Window).lightness() < 128 ? Dark() : Light(); }

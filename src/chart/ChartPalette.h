@@ -22,6 +22,9 @@ struct ChartPalette {
   static ChartPalette Light();
   static ChartPalette Dark();
 
+  /// A colour between the ground, at a share of 0, and the colour, at 1.
+  static QColor Mixed(const QColor &ground, const QColor &colour, double share);
+
   /// Dark on a dark desktop, told by its window colour.
   static ChartPalette For(const QPalette &desktop);
 };

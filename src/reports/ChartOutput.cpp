@@ -126,13 +126,13 @@ Wrapped Wrap(const QString &text, double width, const std::function<double(const
 
 }  // namespace
 
-void ChartOutput::PrintKundli(PrinterService &printer, const ChartLayout &chart, const QSizeF &size, double x, double y) {
+void ChartOutput::PrintKundli(PrinterService &printer, const ChartLayout &chart, const QSizeF &size, double x, double y, int linePen) {
   const ChartLayout parts = chart.Scaled(size.width(), size.height());
   const QSize page = printer.PageDots();
   const double xScale = PrinterService::SheetWidth / page.width(), yScale = PrinterService::SheetHeight / page.height();
   Walk walk;
   walk.line = [&](const QLineF &line) {
-    printer.SetDrawWidth(10);
+    printer.SetDrawWidth(linePen);
     printer.Line(line.x1() + x, line.y1() + y, line.x2() + x, line.y2() + y, Rgb(parts.lineColor));
   };
   walk.rectangle = [&](const QRectF &box) {
@@ -142,11 +142,16 @@ void ChartOutput::PrintKundli(PrinterService &printer, const ChartLayout &chart,
   walk.label = [&](const ChartLayout::Text &text, bool isNumber, int) {
     PrintFont font = PrintFontOf(isNumber ? parts.houseFont : parts.planetFont);
     const QString caption = text.caption.trimmed();
-    const auto measure = [&](const QString &part) { return printer.TextWidth(part); };
-    for (printer.SetFont(font); !isNumber && font.size > SmallestText; printer.SetFont(font)) {
-      const Wrapped wrapped = Wrap(caption, text.box.width(), measure);
-      if (wrapped.lines * printer.TextHeight() <= text.box.height() && wrapped.widest <= text.box.width()) break;
-      font.size -= 0.25;
+    const auto fits = [&] {
+      printer.SetFont(font);
+      const Wrapped wrapped = Wrap(caption, text.box.width(), [&](const QString &part) { return printer.TextWidth(part); });
+      return wrapped.lines * printer.TextHeight() <= text.box.height() && wrapped.widest <= text.box.width();
+    };
+    const PrintFont whole = font;
+    for (const bool narrow : {false, true}) {
+      if (narrow) font = whole, font.name += QStringLiteral(" Narrow");
+      while (!fits() && !isNumber && font.size > SmallestText) font.size -= 0.25;
+      if (isNumber || fits()) break;
     }
     printer.SetForeColor(Rgb(isNumber ? parts.numberColor : parts.textColor));
     const QRect dots(QPoint(static_cast<int>((text.box.left() + x) / xScale), static_cast<int>((text.box.top() + y) / yScale)),

@@ -15,8 +15,8 @@ class PrinterService;
 namespace ChartOutput {
 
 /// x, y: top left of the chart on the page, twips; size: of the chart, twips.
-/// Texts wrap in their boxes, and keep the chart's own fonts.
-void PrintKundli(PrinterService &printer, const ChartLayout &chart, const QSizeF &size, double x, double y);
+/// Texts wrap in their boxes, and keep the chart's own fonts. linePen: 600ths of an inch.
+void PrintKundli(PrinterService &printer, const ChartLayout &chart, const QSizeF &size, double x, double y, int linePen = 10);
 
 /// Each text is one line from its box's corner, in one face and at most `points` high; a crowded cell may run on past its box.
 void PrintKundaliNonApi(PrinterService &printer, const ChartLayout &chart, const QSizeF &size, double x, double y, const QString &face,

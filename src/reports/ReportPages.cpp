@@ -24,7 +24,7 @@ void clsDailyPrinter::PrintFrontPage() {
   printer.SetDrawWidth(1);
   printer.FilledBox(L, T, right, T + 30, Black);
   printer.Box(L, T, right, T + Inches(1.5), Black);
-  printer.Picture(Picture(punditji, "punditji.jpg"), L + 100, T - 300, 1000, 2108);
+  printer.Picture(Picture(punditji, "punditji.jpg", true), L + 100, T - 300, 1000, 2108);
   PlaceText(QStringLiteral("Daily Astrology"), L + Inches(0.8), T - 250, Across::Left, Down::Top, HeadStyle(11));
   PlaceFitted(session.NowInfo().trimmed(), right, T - 250, Across::Right, Down::Top, Inches(4.4), {QLatin1String(NormFont), 11});
 

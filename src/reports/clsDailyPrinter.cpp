@@ -21,6 +21,26 @@ constexpr double LineWidth = 6;  // inches of running text
 constexpr double HeaderLine = 11;  // points: what fits between the sheet's head and the header's rule
 constexpr double LeastSize = 6.5;
 
+// Makes the white around a picture's outline transparent, as far as it reaches from the edges, so that what lies below shows.
+void ClearGround(QImage &picture) {
+  constexpr int white = 200;  // the grey from which on a pixel is ground; the outline is far darker
+  picture = picture.convertToFormat(QImage::Format_ARGB32);
+  const auto isGround = [&](const QPoint &p) {
+    const QRgb pixel = picture.pixel(p);
+    return qAlpha(pixel) != 0 && std::min({qRed(pixel), qGreen(pixel), qBlue(pixel)}) >= white;
+  };
+  std::vector<QPoint> edge;
+  for (int x = 0; x < picture.width(); ++x) edge.insert(edge.end(), {QPoint(x, 0), QPoint(x, picture.height() - 1)});
+  for (int y = 0; y < picture.height(); ++y) edge.insert(edge.end(), {QPoint(0, y), QPoint(picture.width() - 1, y)});
+  while (!edge.empty()) {
+    const QPoint p = edge.back();
+    edge.pop_back();
+    if (!picture.valid(p) || !isGround(p)) continue;
+    picture.setPixel(p, qRgba(255, 255, 255, 0));
+    for (const QPoint &step : {QPoint(1, 0), QPoint(-1, 0), QPoint(0, 1), QPoint(0, -1)}) edge.push_back(p + step);
+  }
+}
+
 }  // namespace
 
 clsDailyPrinter::clsDailyPrinter(PrinterService &printerService, SelvaniDailyMod &dailySession, Setup reportSetup)
@@ -43,12 +63,19 @@ void clsDailyPrinter::PrintRoutine(const ReportTopics &topics, ReportProgress *p
     const char *key;
     void (clsDailyPrinter::*print)();
   };
-  constexpr std::array<Page, 5> pages{{
+  constexpr std::array<Page, 12> pages{{
       {"FrontPage", &clsDailyPrinter::PrintFrontPage},
       {"PlanetPos", &clsDailyPrinter::PrintPlanets},
       {"MoreCharts", &clsDailyPrinter::PrintMoreCharts},
       {"Auspicious", &clsDailyPrinter::PrintPanchang},
       {"Mahadasha", &clsDailyPrinter::PrintDasha},
+      {"DivisionalCharts", &clsDailyPrinter::PrintVargas},
+      {"Ashtakavarga", &clsDailyPrinter::PrintAshtakavarga},
+      {"Upagrahas", &clsDailyPrinter::PrintUpagrahas},
+      {"Aspects", &clsDailyPrinter::PrintAspects},
+      {"BirthAttributes", &clsDailyPrinter::PrintBirthAttributes},
+      {"DayScores", &clsDailyPrinter::PrintScores},
+      {"Vakya", &clsDailyPrinter::PrintVakya},
   }};
   const int total = static_cast<int>(std::count_if(pages.begin(), pages.end(), [&](const Page &page) { return topics.Has(page.key); })) +
                     (topics.HasPrediction() ? 1 : 0);
@@ -181,7 +208,7 @@ void clsDailyPrinter::PageHeader() {
   PlaceText(QStringLiteral("Daily Astrology"), LeftMargin + Inches(0.8), TopMargin - 250, Across::Left, Down::Top, HeadStyle(HeaderLine));
   PlaceFitted(session.NowInfo().trimmed(), right, TopMargin - 250, Across::Right, Down::Top, Inches(4.2),
               {QLatin1String(NormFont), HeaderLine});
-  printer.Picture(Picture(punditji, "punditji.jpg"), LeftMargin + 100, TopMargin - 300, 500, 1054);
+  printer.Picture(Picture(punditji, "punditji.jpg", true), LeftMargin + 100, TopMargin - 300, 500, 1054);
   PlaceFitted(session.ShowPersonHeader().lblPersonName, LeftMargin + Inches(3.3), TopMargin + Inches(0.25), Across::Center, Down::Middle,
               Inches(5.6), {QLatin1String(NormFont), 12});
 }
@@ -238,19 +265,25 @@ void clsDailyPrinter::PrintMyText(const QString &text, const QString &font, doub
   printer.SetCurrent(LeftMargin, y);
 }
 
-void clsDailyPrinter::Chart(const KundaliPage &page, double x, double y, int widthPixels, int heightPixels) {
-  KundaliModel model;
+void clsDailyPrinter::Place(KundaliModel &model, const KundaliPage &page) const {
   model.Clear();
   model.SetChartStyle(session.Settings().IntValue(SettingKeys::KundStyle));
   model.SetHouseNumber(page.houseNumber);
   for (const KundaliPage::Placed &placed : page.planets) model.PlanetPlace(placed.sign, placed.name);
+}
+
+void clsDailyPrinter::Chart(const KundaliPage &page, double x, double y, int widthPixels, int heightPixels) {
+  KundaliModel model;
+  Place(model, page);
   ChartOutput::PrintKundaliNonApi(printer, model.Layout(), QSizeF(widthPixels, heightPixels) * TwipsPerPixel, x, y, PrintFont().name,
                                   setup.language.NormalSize);
 }
 
-const QImage &clsDailyPrinter::Picture(QImage &picture, const char *name) {
-  if (picture.isNull() && !picture.load(setup.picturesDir + QLatin1Char('/') + QLatin1String(name)))
+const QImage &clsDailyPrinter::Picture(QImage &picture, const char *name, bool clearGround) {
+  if (!picture.isNull()) return picture;
+  if (!picture.load(setup.picturesDir + QLatin1Char('/') + QLatin1String(name)))
     throw ReportError(QCoreApplication::translate("clsDailyPrinter", "The picture \"%1\" of the report cannot be read. Please re-install.")
                           .arg(QLatin1String(name)));
+  if (clearGround) ClearGround(picture);
   return picture;
 }

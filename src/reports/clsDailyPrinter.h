@@ -3,8 +3,12 @@
 #pragma once
 
 #include <QImage>
+#include <QRectF>
 #include <QString>
 #include <QStringList>
+#include <functional>
+#include <span>
+#include <vector>
 
 #include "analysis/KundaliPage.h"
 #include "content/Languages.h"
@@ -13,7 +17,10 @@
 #include "reports/ReportTopics.h"
 
 class SelvaniDailyMod;
+class KundaliModel;
 class clsPlanets;
+struct AspectsPage;
+struct VargasPage;
 
 /// Composes the daily report of the session's person and moment on a printer, at fixed places. Lengths are twips.
 /// Faults of the printer, of the stores and of the pictures rise to the caller; so does ReportCancelled.
@@ -79,8 +86,9 @@ class clsDailyPrinter {
   void PlaceTimesHead(const QString &head, double y);
   void Title(const QString &text, double x, double y, Down down = Down::Middle);
   void Rule(double x1, double y1, double x2, double y2);
+  void Place(KundaliModel &model, const KundaliPage &page) const;
   void Chart(const KundaliPage &page, double x, double y, int widthPixels, int heightPixels);
-  const QImage &Picture(QImage &picture, const char *name);
+  const QImage &Picture(QImage &picture, const char *name, bool clearGround = false);
 
   // --- pages: ReportPages.cpp, ReportTables.cpp, ReportTexts.cpp ---
   void PrintFrontPage();
@@ -96,6 +104,60 @@ class clsDailyPrinter {
   void PrintPredictions(const ReportTopics &topics);
   void PrintTopic(const QString &title, const QString &body);
   void PrintYogas();
+
+  // --- study pages: StudyPages.cpp, StudyTables.cpp ---
+  struct TableColumn {
+    QString head;
+    QStringList cells;
+    double share = 1;  // of the table's width, beside the other columns
+    Across across = Across::Left;
+    bool strong = false;
+    bool wraps = false;  // at blanks, and the row grows; other columns make the table's text smaller
+  };
+  struct Table {
+    std::vector<TableColumn> columns;
+    double rowHeight = 270;
+    bool withTotal = false;                                          // a rule parts the last row from the others
+    std::function<unsigned(size_t row, size_t column)> ground = {};  // 0xRRGGBB of a cell
+  };
+
+  void BeginStudyPage(const QString &title);
+  // A page of the birth chart, and then one of the day's; `title` of the page table.
+  void OfBirthAndDay(const char *title, const std::function<void(const clsPlanets &, const QString &)> &print);
+  QString BirthTitle(const char *title) const;
+  QString DayTitle(const char *title) const;
+  // A table with its places: the columns' left edges and the last one's right, and the rows' heights.
+  struct LaidTable {
+    const Table &table;
+    std::vector<double> lefts, heights;
+    Style head, body;
+
+    double Room(size_t column) const;
+    Style StyleOf(size_t column) const { return {body.font, body.size, table.columns[column].strong}; }
+    QString Cell(size_t row, size_t column) const { return table.columns[column].cells[static_cast<qsizetype>(row)]; }
+  };
+  LaidTable LayTable(const Table &table);
+  double WrapCell(const LaidTable &laid, size_t row, size_t column, double top, bool print);
+  void PlaceCell(const LaidTable &laid, const QString &text, size_t column, double middle, const Style &style);
+  double PrintRows(const LaidTable &laid, size_t from, size_t to, double y);
+  // y, or the top of a new page where the height does not fit below it.
+  double RoomFor(double height, double y);
+  // From y down, as wide as the page; gives the height where it ends. What no page holds is carried over to the next, with the heads.
+  double PrintTable(const Table &table, double y);
+  // A line of words under a table; gives the height where it ends.
+  double PrintNote(const QString &text, double y);
+  void StudyChart(const KundaliPage &page, const QString &title, const QRectF &place, double points);
+
+  void PrintVargas();
+  void PrintVargaTable(const VargasPage &page);
+  void PrintAshtakavarga();
+  void PrintUpagrahas();
+  void PrintAspects();
+  void PrintAspectGrids(const AspectsPage &page);
+  void PrintBirthAttributes();
+  void PrintScores();
+  void PrintScoreLine(std::span<const double> scores, const QRectF &place);
+  void PrintVakya();
 
   PrinterService &printer;
   SelvaniDailyMod &session;

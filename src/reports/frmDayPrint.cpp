@@ -86,19 +86,26 @@ void frmDayPrint::Build() {
   tvwPrint->setHeaderHidden(true);
   tvwPrint->setRootIsDecorated(false);
   tvwPrint->setItemsExpandable(false);
-  const auto add = [](QTreeWidgetItem *item, const char *key, const QString &text) {
+  const auto add = [](QTreeWidgetItem *item, const char *key, const QString &text, bool ticked) {
     item->setText(0, text);
     item->setData(0, KeyRole, QLatin1String(key));
     item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
-    item->setCheckState(0, Qt::Checked);
+    item->setCheckState(0, ticked ? Qt::Checked : Qt::Unchecked);
   };
-  auto *root = new QTreeWidgetItem(tvwPrint);
-  add(root, ReportTopics::MainKey, tr(ReportTopics::MainText));
-  for (const ReportTopics::Topic &topic : ReportTopics::List()) add(new QTreeWidgetItem(root), topic.key, tr(topic.text));
+  int rows = 0, longest = 0;
+  for (const ReportTopics::Group &group : ReportTopics::Groups()) {
+    auto *root = new QTreeWidgetItem(tvwPrint);
+    add(root, group.key, tr(group.text), group.wantedAtFirst);
+    for (const ReportTopics::Topic &topic : group.topics) {
+      add(new QTreeWidgetItem(root), topic.key, tr(topic.text), group.wantedAtFirst);
+      longest = std::max(longest, fontMetrics().horizontalAdvance(tr(topic.text)) + 14 * Gap);
+    }
+    rows += 1 + static_cast<int>(group.topics.size());
+  }
   tvwPrint->expandAll();
-  tvwPrint->setCurrentItem(root);
+  tvwPrint->setCurrentItem(tvwPrint->topLevelItem(0));
   tvwPrint->setUniformRowHeights(true);
-  // All thirteen rows show where the screen has room for them.
+  // Every row shows where the screen has room for them.
   const int row = fontMetrics().height() + Gap;
   tvwPrint->setStyleSheet(QStringLiteral("QTreeWidget::item { min-height: %1px; }").arg(row));
   tvwPrint->setMinimumHeight(row * 6);
@@ -128,23 +135,22 @@ void frmDayPrint::Build() {
   layout->setSpacing(2 * Gap);
   layout->addWidget(tvwPrint);
   layout->addLayout(buttons);
-  int longest = sizeHint().width();
-  for (const ReportTopics::Topic &topic : ReportTopics::List())
-    longest = std::max(longest, fontMetrics().horizontalAdvance(tr(topic.text)) + 14 * Gap);
-  const QSize wanted(longest, row * 13 + 14 * Gap);
+  const QSize wanted(std::max(longest, sizeHint().width()), row * rows + 14 * Gap);
   resize(wanted.boundedTo(screen()->availableSize() * 0.9));
 }
 
 void frmDayPrint::OnItemChanged(QTreeWidgetItem *item) {
-  // The root carries all topics with it; a topic leaves the root as it was.
+  // A group carries all its topics with it; a topic leaves its group as it was.
   for (int i = 0; i < item->childCount(); ++i) item->child(i)->setCheckState(0, item->checkState(0));
 }
 
 ReportTopics frmDayPrint::Topics() const {
   ReportTopics topics;
-  const QTreeWidgetItem *root = tvwPrint->topLevelItem(0);
-  for (int i = 0; i < root->childCount(); ++i)
-    topics.Set(root->child(i)->data(0, KeyRole).toString(), root->child(i)->checkState(0) == Qt::Checked);
+  for (int group = 0; group < tvwPrint->topLevelItemCount(); ++group) {
+    const QTreeWidgetItem *root = tvwPrint->topLevelItem(group);
+    for (int i = 0; i < root->childCount(); ++i)
+      topics.Set(root->child(i)->data(0, KeyRole).toString(), root->child(i)->checkState(0) == Qt::Checked);
+  }
   return topics;
 }
 

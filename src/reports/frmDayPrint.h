@@ -14,8 +14,8 @@ class QPrinter;
 class QTreeWidget;
 class QTreeWidgetItem;
 
-/// Asks which topics the daily report is to hold, and prints it, shows it first, or saves it as a PDF. Every topic is ticked when it
-/// opens; nothing is remembered from an earlier use.
+/// Asks which topics the daily report is to hold, and prints it, shows it first, or saves it as a PDF. The daily topics are ticked
+/// when it opens and the study pages are not; nothing is remembered from an earlier use.
 class frmDayPrint : public QDialog {
   Q_OBJECT
 

@@ -84,5 +84,10 @@ TEST(Upagrahas, ArudhaNeverFallsIntoItsHouseOrTheSeventh) {
       EXPECT_NE((upapada - ascendant + 13) % 6, 0) << ascendant << " " << planets;
       EXPECT_EQ(chart->AtmaKaraka(), 7);
       EXPECT_EQ(chart->AtmaKarakaSign(), planets);
+      chart->FillVargaTable();
+      // The atmakaraka stands 15.7 degrees inside its sign, in the fifth ninth: counted from the sign itself in movable
+      // signs, from the ninth in fixed ones and from the fifth in dual ones.
+      const int first = planets % 3 == 1 ? planets : planets % 3 == 2 ? planets + 8 : planets + 4;
+      EXPECT_EQ(chart->KarakamsaLagna(), (first + 4 - 1) % 12 + 1) << planets;
     }
 }

@@ -7,6 +7,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
+#include <QSize>
 
 #include "platform/Database.h"
 #include "platform/FileTools.h"
@@ -296,6 +297,28 @@ TEST_F(DailyProgram, GivesTheExactDayAndMonth) {
   EXPECT_TRUE(written.readAll().startsWith("BEGIN:VCALENDAR"));
 }
 
+TEST_F(DailyProgram, TellsWhatTheStudyPagesShowUnderTheMembersNames) {
+  const QJsonObject day = QJsonDocument::fromJson(Call({"--json", "--at", "2026-11-21 09:00"}).out).object(),
+                    birth = day["birth"].toObject();
+  // Saturn stands at 29:37 of Leo, farther in its sign than the other six; from there its navamsha is Sagittarius.
+  EXPECT_EQ(birth["AtmaKaraka"], 6);
+  EXPECT_EQ(birth["AtmaKarakaSign"], 5);
+  EXPECT_EQ(birth["KarakamsaLagna"], 9);
+  EXPECT_EQ(birth["PlanetInNavamsha"].toArray(), birth["PrediVarga"].toArray().at(5).toArray());
+  EXPECT_EQ(birth["PlanetRashiNum"].toArray(), birth["PrediVarga"].toArray().at(0).toArray());
+  // A rule for each point, for each of its pairs, or for each sign.
+  const std::pair<const char *, QSize> shapes[] = {
+      {"NavamshLord", {13, 0}},     {"SashtiAmshaBenefic", {13, 0}},  {"PlanetWithMalefic", {13, 0}}, {"AspectedByEnemy", {13, 0}},
+      {"InAdhiMitraHouse", {9, 0}}, {"UpagrahaName", {17, 0}},        {"CountPlanetInSign", {12, 0}}, {"PlanetMutOrb", {13, 13}},
+      {"PlanetInKendra", {13, 13}}, {"CheckMaleficAspects", {13, 12}}};
+  for (const char *chart : {"birth", "day"})
+    for (const auto &[name, size] : shapes) {
+      const QJsonArray rows = day[QLatin1String(chart)].toObject()[QLatin1String(name)].toArray();
+      EXPECT_EQ(rows.size(), size.width()) << chart << " " << name;
+      EXPECT_EQ(rows.first().toArray().size(), size.height()) << chart << " " << name;
+    }
+}
+
 TEST_F(DailyProgram, WritesTheReport) {
   const QString file = data.Path() + "/day.pdf";
   const Answer whole = Call({"--pdf", file, "--at", "2026-11-21 09:00"});
@@ -306,17 +329,25 @@ TEST_F(DailyProgram, WritesTheReport) {
   const QByteArray pages = written.readAll();
   EXPECT_TRUE(pages.startsWith("%PDF"));
   // What cannot be written or is asked for wrongly leaves the good file as it is.
-  EXPECT_EQ(Call({"--pdf", file, "--topics", "NoSuchTopic"}).code, 2);
+  const Answer unknown = Call({"--pdf", file, "--topics", "Vakya,NoSuchTopic"});
+  EXPECT_EQ(unknown.code, 2);
+  for (const char *word : {"'NoSuchTopic'", "FrontPage", "WeekdayRes", "DivisionalCharts", "Vakya"})
+    EXPECT_TRUE(unknown.err.contains(word)) << word << unknown.err.constData();
   EXPECT_EQ(Call({"--pdf", data.Path() + "/day.pdf/inside.pdf"}).code, 1);
   EXPECT_EQ(Call({"--topics", "Rashifala"}).code, 2);
   written.seek(0);
   EXPECT_EQ(written.readAll(), pages);
+  written.close();
+  const Answer study = Call({"--pdf", file, "--topics", "dayscores,VAKYA", "--at", "2026-11-21 09:00"});
+  EXPECT_EQ(study.code, 0) << study.err.constData();
+  ASSERT_TRUE(written.open(QIODevice::ReadOnly));
+  EXPECT_EQ(written.readAll().count("/Type /Page\n"), 2);
 }
 
 TEST_F(DailyProgram, HelpsAndTellsItsVersion) {
   const QByteArray help = Call({"--help"}).out;
   EXPECT_TRUE(help.startsWith("Usage: orvani-daily ")) << help.constData();
-  EXPECT_TRUE(help.contains("--person"));
+  for (const char *word : {"--person", "FrontPage", "DivisionalCharts", "Vakya"}) EXPECT_TRUE(help.contains(word)) << word;
   const Answer version = Call({"--version"});
   EXPECT_EQ(version.code, 0);
   EXPECT_TRUE(version.out.contains("Swiss Ephemeris files")) << version.out.constData();

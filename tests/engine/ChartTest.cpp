@@ -248,6 +248,39 @@ TEST(Chart, RefusesWhatCannotBeRead) {
 }
 
 // The search for the ascendant leaves the planets out; the chart that it hands over has them all the same.
+// Each mode has its own way: written at once or not at all, read each time or once.
+TEST(Chart, ModesAreReadAndWrittenEachInItsOwnWay) {
+  MemoryUserSettings settings;
+  clsPlanets chart(settings);
+  chart.SetAyanType(3);
+  EXPECT_EQ(chart.AyanType(), 3);
+  EXPECT_EQ(settings.IntValue(SettingKeys::AyanType), 3);
+  chart.SetRahuKetuMode(2);
+  EXPECT_EQ(chart.RahuKetuMode(), 2);
+  EXPECT_EQ(settings.IntValue(SettingKeys::RahuKetuMode), 1);
+  const struct {
+    SettingKey key;
+    int (clsPlanets::*read)() const;
+    void (clsPlanets::*write)(int);
+    bool keepsTheFirst;
+  } modes[] = {{SettingKeys::CalcMangMod, &clsPlanets::CalcModmanglik, &clsPlanets::SetCalcModmanglik, true},
+               {SettingKeys::CalcVarMod, &clsPlanets::CalcModVarna, &clsPlanets::SetCalcModVarna, true},
+               {SettingKeys::UpagrahaMode, &clsPlanets::UpagrahaMode, &clsPlanets::SetUpagrahaMode, false}};
+  for (const auto &mode : modes) {
+    EXPECT_EQ((chart.*mode.read)(), 1);
+    settings.SetIntValue(mode.key, 2);
+    EXPECT_EQ((chart.*mode.read)(), mode.keepsTheFirst ? 1 : 2);
+    (chart.*mode.write)(3);
+    EXPECT_EQ((chart.*mode.read)(), 3);
+    EXPECT_EQ(settings.IntValue(mode.key), 3);
+  }
+  // The ascendant is the first house's midpoint under both names of the array.
+  chart.SetLysPlnt(0, 12.5);
+  EXPECT_EQ(chart.PlanetLongi(0), 12.5);
+  EXPECT_EQ(chart.BhavMid(0), 12.5);
+  EXPECT_EQ(chart.PlanetLongi(1), 0);
+}
+
 TEST(Chart, FoundAscendantChartIsWhole) {
   MemoryUserSettings settings;
   clsPlanets chart(settings);

@@ -45,4 +45,9 @@ void RegisterUpagrahaFigures() {
   Members::Bind("UpagrahaName", &clsPlanets::UpagrahaName);
   Members::Bind("UpagrahaNameSmall", &clsPlanets::UpagrahaNameSmall);
   Members::Bind("GulikaSign", &clsPlanets::GulikaSign);
+  Members::Bind("AtmaKaraka", &clsPlanets::AtmaKaraka);
+  Members::Bind("AtmaKarakaSign", &clsPlanets::AtmaKarakaSign);
+  Members::Bind("KarakamsaLagna", &clsPlanets::KarakamsaLagna);
+  Members::Bind("FindAroodhaLagna", &clsPlanets::FindAroodhaLagna);
+  Members::Bind("FindUpaPadaLagna", &clsPlanets::FindUpaPadaLagna);
 }

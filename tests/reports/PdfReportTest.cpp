@@ -2,25 +2,17 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 // Real PDFs, read back by another program; and the screens that ask for them.
 #include <QFile>
-#include <QProcess>
 #include <QPushButton>
-#include <QRegularExpression>
 #include <QTest>
 #include <QTreeWidget>
 
 #include "platform/ReportError.h"
+#include "reports/PdfWords.h"
 #include "reports/ReportFixture.h"
 #include "reports/frmDayPrint.h"
 #include "reports/frmPratyan.h"
 
 namespace {
-
-QString OutputOf(const QString &program, const QStringList &arguments) {
-  QProcess process;
-  process.start(program, arguments);
-  EXPECT_TRUE(process.waitForFinished()) << program.toStdString();
-  return QString::fromUtf8(process.readAllStandardOutput());
-}
 
 QByteArray Content(const QString &path) {
   QFile file(path);
@@ -39,26 +31,19 @@ TEST_F(PdfReportTest, WordsStandOnBothPapersWhereTheyBelong) {
   };
   for (const Case &c : {Case{QPageSize::A4, 595, 842}, Case{QPageSize::Letter, 612, 792}}) {
     const QString file = File("report.pdf");
-    ASSERT_TRUE(Report().SavePdf(file, ReportTopics::All(), nullptr, QPageSize(c.paper)));
-    const QString boxes = OutputOf("pdftotext", {"-bbox", file, "-"});
-    static const QRegularExpression word(
-        QStringLiteral("<page|<word xMin=\"([0-9.]+)\" yMin=\"([0-9.]+)\" xMax=\"([0-9.]+)\" yMax=\"([0-9.]+)\">([^<]*)</word>"));
+    ASSERT_TRUE(Report().SavePdf(file, ReportTopics::Usual(), nullptr, QPageSize(c.paper)));
     int page = 0, generated = 0;
-    for (auto matches = word.globalMatch(boxes); matches.hasNext();) {
-      const QRegularExpressionMatch match = matches.next();
-      if (match.captured(5).isEmpty()) {
-        ++page;
-        continue;
-      }
-      EXPECT_GT(match.captured(1).toDouble(), 36) << match.captured(5).toStdString();
-      EXPECT_LT(match.captured(3).toDouble(), c.width - 12) << match.captured(5).toStdString() << " on page " << page;
-      EXPECT_LT(match.captured(4).toDouble(), c.height - 24);
-      if (match.captured(5) != QLatin1String("Generated")) continue;
+    for (const PdfWord &word : WordsOf(file)) {
+      page = word.page;
+      EXPECT_GT(word.place.left(), 36) << word.text.toStdString();
+      EXPECT_LT(word.place.right(), c.width - 12) << word.text.toStdString() << " on page " << page;
+      EXPECT_LT(word.place.bottom(), c.height - 24);
+      if (word.text != QLatin1String("Generated")) continue;
       ++generated;
       // 1400 twips from the left, 370 fewer on the dasha page, 100 more after running text; 9.3 inches and 80 twips down.
       const double left = page == 5 ? 51.5 : page > 6 ? 75 : 70;
-      EXPECT_NEAR(match.captured(1).toDouble(), left, 0.5);
-      EXPECT_NEAR(match.captured(2).toDouble(), (1440 + 9.3 * 1440 + 80) / 20, 1);
+      EXPECT_NEAR(word.place.left(), left, 0.5);
+      EXPECT_NEAR(word.place.top(), (1440 + 9.3 * 1440 + 80) / 20, 1);
     }
     EXPECT_GE(page, 6);
     EXPECT_EQ(generated, page);
@@ -79,10 +64,10 @@ TEST_F(PdfReportTest, AStoppedOrFailedFileLeavesTheOldOne) {
   struct Stop : ReportProgress {
     bool Step(int done, int) override { return done < 2; }
   } stop;
-  EXPECT_FALSE(Report().SavePdf(file, ReportTopics::All(), &stop));
+  EXPECT_FALSE(Report().SavePdf(file, ReportTopics::Usual(), &stop));
   EXPECT_EQ(Content(file), "old");
   QFile::remove(data.File("COMMON\\trishul.jpg"));
-  EXPECT_THROW(Report().SavePdf(file, ReportTopics::All()), ReportError);
+  EXPECT_THROW(Report().SavePdf(file, ReportTopics::Usual()), ReportError);
   EXPECT_EQ(Content(file), "old");
   EXPECT_THROW(Report().SavePdf(data.Path(), ReportTopics::FromKeys({"Rashifala"})), StoreError);
   EXPECT_THROW(Report().SavePdf(QStringLiteral("/dev/full/report.pdf"), ReportTopics::FromKeys({"Rashifala"})), StoreError);
@@ -121,6 +106,9 @@ TEST_F(PdfReportTest, TopicsFollowTheirRootAndTheRootStays) {
   QTreeWidgetItem *root = tree->topLevelItem(0);
   ASSERT_EQ(root->childCount(), 12);
   for (int i = 0; i < 12; ++i) EXPECT_EQ(root->child(i)->checkState(0), Qt::Checked);
+  QTreeWidgetItem *study = tree->topLevelItem(1);
+  ASSERT_EQ(study->childCount(), 7);
+  EXPECT_EQ(form.Topics(), ReportTopics::Usual());
   root->child(8)->setCheckState(0, Qt::Unchecked);
   EXPECT_EQ(root->checkState(0), Qt::Checked);
   form.show();
@@ -132,6 +120,13 @@ TEST_F(PdfReportTest, TopicsFollowTheirRootAndTheRootStays) {
   EXPECT_FALSE(form.Topics().HasPrediction());
   root->setCheckState(0, Qt::Checked);
   EXPECT_TRUE(form.Topics().Has("Journey"));
+  EXPECT_EQ(form.Topics(), ReportTopics::FromKeys({"main"}));
+  study->setCheckState(0, Qt::Checked);
+  study->child(3)->setCheckState(0, Qt::Unchecked);
+  EXPECT_EQ(form.Topics(),
+            ReportTopics::FromKeys({"Main", "DivisionalCharts", "ashtakavarga", "Upagrahas", "BirthAttributes", " DayScores", "Vakya"}));
+  root->setCheckState(0, Qt::Checked);
+  study->setCheckState(0, Qt::Unchecked);
 
   // Without a printer, and when one vanishes, the PDF is offered.
   for (const bool any : {false, true}) {

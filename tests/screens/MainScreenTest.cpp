@@ -26,6 +26,7 @@
 #include "content/Theme.h"
 #include "content/contentManager.h"
 #include "content/frmSettings.h"
+#include "content/pages/ScoreLine.h"
 #include "persons/frmPeople.h"
 #include "platform/Recordset.h"
 #include "support/DataFolder.h"
@@ -287,6 +288,19 @@ TEST_F(MainScreen, OffersTheKeptCopyOfADamagedStore) {
   ASSERT_EQ(notices.size(), 1);
   EXPECT_TRUE(notices[0].contains("RECOS.Dat.damaged")) << notices[0].toStdString();
   EXPECT_NE(screen->Session().OpenStores().personDb, nullptr);
+}
+
+TEST_F(MainScreen, AClickOnAScoresCourseGoesToItsDay) {
+  Open();
+  screen->Pages().ShowPage(34);
+  auto *line = Find<ScoreLine>("linScore0");
+  ASSERT_NE(line, nullptr);
+  const double later = line->Scores()[9];
+  QTest::mouseClick(line, Qt::LeftButton, {}, line->PointOf(9).toPoint());
+  EXPECT_EQ(screen->Session().AnalysisMoment(), Moment.addDays(9));
+  EXPECT_EQ(screen->Pages().Current(), 34);
+  EXPECT_EQ(line->Scores()[0], later);  // the page counts from the day that was chosen
+  EXPECT_TRUE(line->TellDay(0).startsWith("Monday, 30 November 2026"));
 }
 
 TEST_F(MainScreen, SavesEveryPageAsAPdf) {

@@ -5,7 +5,6 @@
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QSignalBlocker>
-#include <algorithm>
 
 #include "analysis/SelvaniDailyMod.h"
 #include "chart/Kundali.h"
@@ -15,6 +14,7 @@
 #include "content/pages/Card.h"
 #include "content/pages/CardHead.h"
 #include "content/pages/CellGrid.h"
+#include "content/pages/ChartFill.h"
 #include "content/pages/PageScroll.h"
 #include "content/pages/SideBySide.h"
 #include "platform/UserSettings.h"
@@ -22,17 +22,13 @@
 namespace {
 
 constexpr int Signs = 12, SumColumn = Signs;
-constexpr int MostOfBody = 8;     // points of one body in one sign: one of each contributor
 constexpr int ChartHeight = 400;  // about as wide as high
 constexpr double WarmestShare = 0.5;
 
 // From the card's colour to half gold, on which the ink stays readable in both schemes. share: 0 to 1.
 QColor Heat(double share) {
   const ChartPalette &palette = Theme::Current().chart;
-  const double gold = WarmestShare * std::clamp(share, 0.0, 1.0);
-  const auto mix = [gold](int from, int to) { return qRound(from + (to - from) * gold); };
-  return {mix(palette.card.red(), palette.gold.red()), mix(palette.card.green(), palette.gold.green()),
-          mix(palette.card.blue(), palette.gold.blue())};
+  return ChartPalette::Mixed(palette.card, palette.gold, WarmestShare * share);
 }
 
 }  // namespace
@@ -103,17 +99,13 @@ void AshtakavargaView::ShowChosen() {
   table->ColumnHead(SumColumn).setText(page.lblSumHead);
   for (int i = 0; i < AshtakavargaPage::Rows; ++i) {
     const AshtakavargaPage::Row &row = page.rows[static_cast<size_t>(i)];
-    const auto [fewest, most] = std::minmax_element(row.points.begin() + 1, row.points.end());
     table->RowHead(i).setText(row.name);
     for (int sign = 1; sign <= Signs; ++sign) {
       const int points = row.points[static_cast<size_t>(sign)];
       QLabel &cell = table->Cell(i, sign - 1);
       cell.setText(QString::number(points));
       cell.setToolTip(QStringLiteral("%1, %2: %3").arg(row.name, page.signName[static_cast<size_t>(sign)]).arg(points));
-      // The total has no fixed scale: its own least and most are the ends.
-      const double share =
-          i == AshtakavargaPage::Total ? double(points - *fewest) / std::max(1, *most - *fewest) : double(points) / MostOfBody;
-      table->SetGround(i, sign - 1, Heat(share));
+      table->SetGround(i, sign - 1, Heat(row.Share(sign)));
     }
     table->Cell(i, SumColumn).setText(QString::number(row.sum));
   }
@@ -124,12 +116,7 @@ void AshtakavargaView::ShowChosen() {
   const AshtakavargaPage::Row &row = page.rows[static_cast<size_t>(chosen)];
   chartHead->setText(row.name);
   chart->setAccessibleName(row.name);
-  chart->Clear();
-  chart->SetChartStyle(settings->IntValue(SettingKeys::KundStyle));
-  chart->SetHouseNumber(page.ascendantSign);
-  chart->SetAscendantName(page.ascendantName);
-  chart->PlanetPlace(page.ascendantSign, page.ascendantName);
-  for (int sign = 1; sign <= Signs; ++sign) chart->PlanetPlace(sign, QString::number(row.points[static_cast<size_t>(sign)]));
+  FillChart(*chart, page.ChartOf(static_cast<size_t>(chosen)), *settings);
 }
 
 void AshtakavargaView::ApplyFonts(const SetFonts &fonts) {

@@ -4,6 +4,7 @@
 
 #include "content/pages/PageView.h"
 
+class HeadedCard;
 class Kundali;
 class QLabel;
 
@@ -26,10 +27,9 @@ class LargeChartView : public PageView {
   void resizeEvent(QResizeEvent *event) override;
 
  private:
-  void Place();
-
   int kindShown = 1;
   QRect chartRect;
+  HeadedCard *card;
   Kundali *chart;
-  QLabel *lblMoment, *lblPlace, *lblStyle;
+  QLabel *lblStyle;
 };

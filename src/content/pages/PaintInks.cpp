@@ -6,11 +6,6 @@
 
 namespace {
 
-QColor Mixed(const QColor &ground, const QColor &colour, double share) {
-  const auto part = [share](int a, int b) { return qRound(a + (b - a) * share); };
-  return QColor(part(ground.red(), colour.red()), part(ground.green(), colour.green()), part(ground.blue(), colour.blue()));
-}
-
 PaintInks From(const ChartPalette &chart) {
   PaintInks inks;
   inks.card = chart.card;
@@ -23,8 +18,8 @@ PaintInks From(const ChartPalette &chart) {
   inks.accent = chart.accent;
   // The night is darker than the card, on a dark ground too.
   const bool dark = chart.card.lightness() < 128;
-  inks.day = Mixed(chart.card, chart.gold, dark ? 0.16 : 0.11);
-  inks.night = dark ? Mixed(chart.card, Qt::black, 0.4) : Mixed(chart.card, chart.ink, 0.07);
+  inks.day = ChartPalette::Mixed(chart.card, chart.gold, dark ? 0.16 : 0.11);
+  inks.night = dark ? ChartPalette::Mixed(chart.card, Qt::black, 0.4) : ChartPalette::Mixed(chart.card, chart.ink, 0.07);
   return inks;
 }
 

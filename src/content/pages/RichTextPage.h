@@ -4,7 +4,7 @@
 
 #include <QWidget>
 
-class QLabel;
+class HeadedCard;
 class RichTextView;
 class SetFonts;
 
@@ -25,9 +25,7 @@ class RichTextPage : public QWidget {
   void resizeEvent(QResizeEvent *event) override;
 
  private:
-  void Place();
-
   QRect textRect;
-  QLabel *lblTextDay, *lblTextFacts;
+  HeadedCard *card;
   RichTextView *rtf;
 };

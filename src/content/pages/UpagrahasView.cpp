@@ -20,7 +20,8 @@ enum Column { Name, Rashi, Degrees, Nak, Pada };
 
 }  // namespace
 
-UpagrahasView::UpagrahasView(QWidget *parent) : PageView(parent), which(new BirthOrDay) {
+UpagrahasView::UpagrahasView(QWidget *parent)
+    : PageView(parent), which(new BirthOrDay), lblJaimini(MakeCardLine(QStringLiteral("lblJaimini"), "value")) {
   setObjectName(QStringLiteral("framUpagrahas"));
   setAccessibleName(tr("Upagrahas"));
   std::array<Card *, 2> cards{};
@@ -46,6 +47,9 @@ UpagrahasView::UpagrahasView(QWidget *parent) : PageView(parent), which(new Birt
   column->setSpacing(Grid::Gap * 2);
   column->addWidget(which, 0, Qt::AlignLeft);
   column->addWidget(new SideBySide(cards[0], cards[1]), 1);
+  auto *points = new Card;
+  points->Body()->addWidget(lblJaimini);
+  column->addWidget(points);
   PageScroll::Fill(this, content);
   connect(which, &BirthOrDay::Changed, this, &UpagrahasView::ShowChosen);
 }
@@ -57,6 +61,7 @@ void UpagrahasView::Fill(SelvaniDailyMod &session) {
 
 void UpagrahasView::ShowChosen() {
   const UpagrahasPage &page = pages[which->Chosen()];
+  lblJaimini->setText(page.lblJaimini);
   for (size_t i = 0; i < page.modes.size(); ++i) {
     const UpagrahasPage::Mode &mode = page.modes[i];
     CaptionTable &table = *tables[i];
@@ -82,5 +87,6 @@ void UpagrahasView::ShowChosen() {
 void UpagrahasView::ApplyFonts(const SetFonts &fonts) {
   which->ApplyFonts(fonts);
   for (QLabel *title : titles) fonts.SetSmallFont(*title);
+  fonts.SetSmallFont(*lblJaimini);
   for (CaptionTable *table : tables) table->ApplyFonts(fonts);
 }

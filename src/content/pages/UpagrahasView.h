@@ -26,6 +26,7 @@ class UpagrahasView : public PageView {
 
   std::array<UpagrahasPage, 2> pages;  // of the birth, of the day
   BirthOrDay *which;
+  QLabel *lblJaimini;
   std::array<QLabel *, 2> titles{};
   std::array<CaptionTable *, 2> tables{};
 };
