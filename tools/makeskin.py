@@ -18,6 +18,7 @@ INK = "#2B2320"
 ACCENT = "#B9540F"
 SELECTION = "#F4E7D3"
 CARD = "#FFFDF9"
+DARK_INK = "#F2E9DE"
 # The Moon looks the same in a light and a dark scheme: its colours are none of those that the program exchanges.
 MOON_DARK = "#4B3D35"
 MOON_LIGHT = "#F6EAD6"
@@ -154,6 +155,9 @@ def collect(data_dir):
     for name, drawing in drawings.items():
         for file_name, text in icon_states(name, drawing).items():
             files[f"SKIN/{file_name}"] = text
+    # The style sheet names these files and cannot exchange their colours.
+    for name in ("ctlDown", "ctlTick"):
+        files[f"SKIN/{name}-dark.svg"] = f"{ICON_HEAD}{drawings[name]}</svg>\n".replace(INK_PLACEHOLDER, DARK_INK)
     for name in ("mark", "splash"):
         files[f"SKIN/{name}.svg"] = read_svg(data_dir / "skin" / f"{name}.svg")
     template = read_svg(data_dir / "pictures" / "wait" / "wait.svg")

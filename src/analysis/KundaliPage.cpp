@@ -14,12 +14,13 @@ bool IsSign(int sign) { return sign >= 1 && sign <= 12; }
 
 KundaliPage Fill(const clsPlanets &chart, int houseNumber, const clsPlanets &words) {
   KundaliPage page;
+  for (int sign = 1; sign <= 12; ++sign) page.signName[static_cast<size_t>(sign)] = words.ConvertRashi(sign);
   page.houseNumber = IsSign(houseNumber) ? houseNumber : 1;
   for (int planet = 0; planet <= 12; ++planet) {
     const int sign = chart.PrediVarga(planet, FirstDivision).value_or(0);
     const QString name = words.PlanetName(planet);
     if (IsSign(sign)) {
-      page.planets.push_back({sign, name});
+      page.planets.push_back({sign, name, words.PlanetNameFull(planet)});
     } else {
       // A longitude of exactly 360 counts as a thirteenth sign, for which a chart has no house.
       Notices::Show({Notice::Kind::Warning, QString(),

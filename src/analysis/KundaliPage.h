@@ -4,6 +4,7 @@
 
 #include <QDateTime>
 #include <QString>
+#include <array>
 #include <vector>
 
 class clsPlanets;
@@ -13,10 +14,12 @@ struct KundaliPage {
   struct Placed {
     int sign = 0;  // 1 Aries to 12 Pisces
     QString name;
+    QString fullName = {};  // for a reader who hears it
   };
 
   int houseNumber = 0;  // sign in the first house
   std::vector<Placed> planets;
+  std::array<QString, 13> signName;  // by sign; entry 0 is empty
 };
 
 KundaliPage FillBirthKundali(const clsPlanets &birthChart);

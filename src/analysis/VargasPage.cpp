@@ -34,8 +34,9 @@ VargasPage FillVargas(const clsPlanets &chart) {
       const int sign = chart.PrediVarga(planet, number).value_or(0);
       if (sign < 1 || sign > 12) continue;
       varga.sign[static_cast<size_t>(planet)] = sign;
-      varga.chart.planets.push_back({sign, chart.PlanetName(planet)});
+      varga.chart.planets.push_back({sign, chart.PlanetName(planet), page.points[static_cast<size_t>(planet)].name});
     }
+    varga.chart.signName = page.signName;
     varga.chart.houseNumber = varga.sign[Ascendant] == 0 ? 1 : varga.sign[Ascendant];
   }
   page.lblPointHead = chart.GetGenText(QStringLiteral("TPlanets"));

@@ -3,6 +3,7 @@
 #include "app/MessageBoxes.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <algorithm>
@@ -19,16 +20,17 @@ constexpr QSize PictureSize(40, 40);
 
 struct Look {
   const char *picture;
+  const char *word;
   QMessageBox::Icon fallback;
 };
 
 Look LookOf(Notice::Kind kind) {
   switch (kind) {
-    case Notice::Kind::Critical: return {"msgStop", QMessageBox::Critical};
-    case Notice::Kind::Warning: return {"msgWarning", QMessageBox::Warning};
+    case Notice::Kind::Critical: return {"msgStop", QT_TRANSLATE_NOOP("MessageBoxes", "Fault"), QMessageBox::Critical};
+    case Notice::Kind::Warning: return {"msgWarning", QT_TRANSLATE_NOOP("MessageBoxes", "Warning"), QMessageBox::Warning};
     case Notice::Kind::Information: break;
   }
-  return {"msgInfo", QMessageBox::Information};
+  return {"msgInfo", QT_TRANSLATE_NOOP("MessageBoxes", "Information"), QMessageBox::Information};
 }
 
 bool Same(const Notice &a, const Notice &b) { return a.kind == b.kind && a.title == b.title && a.text == b.text; }
@@ -43,6 +45,8 @@ void Dress(QMessageBox &box, const QString &title, const QString &text, const Lo
     box.setIcon(look.fallback);
   else
     box.setIconPixmap(picture);
+  if (auto *shown = box.findChild<QLabel *>(QStringLiteral("qt_msgboxex_icon_label")))
+    shown->setAccessibleName(MessageBoxes::tr(look.word));
 }
 
 // After the buttons are there: each takes its font from the desktop otherwise.
@@ -62,7 +66,7 @@ void ShowBox(const Notice &notice) {
 
 bool AskInBox(const QString &title, const QString &text) {
   QMessageBox box(QApplication::activeWindow());
-  Dress(box, title, text, {"msgQuestion", QMessageBox::Question});
+  Dress(box, title, text, {"msgQuestion", QT_TRANSLATE_NOOP("MessageBoxes", "Question"), QMessageBox::Question});
   box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
   box.setDefaultButton(QMessageBox::No);
   box.setEscapeButton(QMessageBox::No);

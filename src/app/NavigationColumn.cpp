@@ -63,6 +63,7 @@ void NavigationColumn::Mark(const char *name) {
     it.value()->style()->unpolish(it.value());
     it.value()->style()->polish(it.value());
     ImageButton *button = buttons.value(it.key());
+    button->setAccessibleDescription(chosen ? tr("On show. %1").arg(hints.value(button)) : hints.value(button));
     QFont font = button->font();
     font.setBold(chosen);
     button->setFont(font);

@@ -31,12 +31,16 @@ void SkyDial::Show(const NowCardPage &page) {
   shown = page;
   filled = true;
   QStringList words;
-  for (size_t i = 0; i < shown.names.size(); ++i)
-    words << QStringLiteral("%1 %2").arg(shown.names[i],
-                                         clsPlanets::PlanetRashiNameEngSmall(static_cast<int>(shown.longitudes[i] / 30) % 12 + 1));
+  for (int body = 0; body < PartCount(); ++body) words << PartWords(body);
   setAccessibleDescription(words.join(QStringLiteral(", ")));
   setToolTip(words.join(QStringLiteral("\n")));
   update();
+}
+
+QString SkyDial::PartWords(int body) const {
+  const auto i = static_cast<size_t>(body);
+  return QStringLiteral("%1 %2").arg(shown.names[i],
+                                     clsPlanets::PlanetRashiNameEngSmall(static_cast<int>(shown.longitudes[i] / 30) % 12 + 1));
 }
 
 std::vector<double> SkyDial::SpreadApart(const std::vector<double> &longitudes, double apart) {

@@ -5,15 +5,21 @@
 #include <QWidget>
 
 #include "analysis/NowCardPage.h"
+#include "chart/SpokenParts.h"
 
 // A small dial of the zodiac with the planets where they stand; names that would overlap are spread apart.
-class SkyDial : public QWidget {
+class SkyDial : public QWidget, public SpokenParts {
   Q_OBJECT
 
  public:
   explicit SkyDial(QWidget *parent = nullptr);
 
   void Show(const NowCardPage &page);
+  // The ascendant and the planets.
+  int PartCount() const override { return filled ? static_cast<int>(shown.names.size()) : 0; }
+  QString PartWords(int body) const override;
+  QRect PartRoom(int) const override { return rect(); }
+
   QSize sizeHint() const override { return {164, 164}; }
   QSize minimumSizeHint() const override { return {132, 112}; }
 

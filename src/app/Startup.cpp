@@ -10,9 +10,10 @@
 #include "content/Skin.h"
 #include "content/Theme.h"
 #include "content/frmSettings.h"
+#include "platform/gui/DesktopScheme.h"
 
 Startup::Startup(const AppPaths &applicationPaths) : paths(applicationPaths) {
-  Theme::Apply(*qApp, paths.Ephe(QStringLiteral("SKIN/ctlDown.svg")));
+  Theme::Apply(*qApp, DesktopScheme::Ask(qApp->palette()), paths.Ephe(QStringLiteral("SKIN")));
   Skin::SetFolder(paths.Ephe(QStringLiteral("SKIN")));
   QApplication::setWindowIcon(Skin::Picture(QStringLiteral("mark")));
 }

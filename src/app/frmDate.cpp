@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "app/frmDate.h"
 
+#include <QAbstractItemView>
 #include <QCalendarWidget>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -85,11 +86,11 @@ frmDate::frmDate(Clock now, QWidget *parent) : DropDown(parent), clock(std::move
   all->addLayout(days);
   all->addSpacing(Grid::Gap);
   all->addLayout(time);
-  setTabOrder(txtDTime, take);
-  setTabOrder(take, mntToday);
   setTabOrder(mntToday, previous);
   setTabOrder(previous, present);
   setTabOrder(present, next);
+  setTabOrder(next, txtDTime);
+  setTabOrder(txtDTime, take);
 
   connect(mntToday, &QCalendarWidget::clicked, this, &frmDate::Take);
   connect(mntToday, &QCalendarWidget::activated, this, &frmDate::Take);
@@ -124,21 +125,26 @@ void frmDate::MakeCalendar() {
   for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday}) mntToday->setWeekdayTextFormat(day, QTextCharFormat());
   mntToday->setMinimumHeight(11 * mntToday->fontMetrics().lineSpacing() + 8 * Grid::Gap);
 
-  mntToday->setStyleSheet(QStringLiteral("#qt_calendar_navigationbar { background: %1; }"
-                                         "QToolButton { background: transparent; border: 1px solid transparent; border-radius: 6px;"
-                                         " padding: 4px 8px; color: %2; font-weight: bold; }"
-                                         "QToolButton:hover { background: %3; }"
-                                         "QToolButton:focus { border-color: %4; }"
-                                         "QToolButton::menu-indicator { image: none; }"
-                                         "QCalendarWidget QTableView { border: none; selection-background-color: %2;"
-                                         " selection-color: %1; }"
-                                         "QCalendarWidget QAbstractItemView:disabled { color: %6; }"
-                                         "QMenu { background: %1; } QMenu::item:selected { background: %3; color: %5; }")
-                              .arg(colours.card.name(), colours.maroon.name(), theme.selection.name(), colours.saffron.name(),
-                                   colours.ink.name(), colours.muted.name()));
-  const std::pair<const char *, const char *> arrows[] = {{"qt_calendar_prevmonth", "ctlLeft"}, {"qt_calendar_nextmonth", "ctlRight"}};
-  for (const auto &[arrow, picture] : arrows) {
+  mntToday->setStyleSheet(
+      QStringLiteral("#qt_calendar_navigationbar { background: %1; }"
+                     "QToolButton { background: transparent; border: 1px solid transparent; border-radius: 6px;"
+                     " padding: 4px 8px; color: %2; font-weight: bold; }"
+                     "QToolButton:hover { background: %3; }"
+                     "QToolButton:focus { border-color: %4; }"
+                     "QToolButton::menu-indicator { image: none; }"
+                     "QCalendarWidget QTableView { border: 2px solid transparent; border-radius: 6px; selection-background-color: %2;"
+                     " selection-color: %1; }"
+                     "QCalendarWidget QTableView:focus { border-color: %4; }"
+                     "QCalendarWidget QAbstractItemView:disabled { color: %6; }"
+                     "QMenu { background: %1; } QMenu::item:selected { background: %3; color: %5; }")
+          .arg(colours.card.name(), colours.maroon.name(), theme.selection.name(), colours.saffron.name(), colours.ink.name(),
+               colours.muted.name()));
+  if (auto *days = mntToday->findChild<QAbstractItemView *>()) days->setAccessibleName(tr("Days of the month"));
+  const std::tuple<const char *, const char *, QString> arrows[] = {{"qt_calendar_prevmonth", "ctlLeft", tr("Previous month")},
+                                                                    {"qt_calendar_nextmonth", "ctlRight", tr("Next month")}};
+  for (const auto &[arrow, picture, words] : arrows) {
     auto *button = mntToday->findChild<QToolButton *>(QLatin1String(arrow));
+    if (button) button->setAccessibleName(words);
     const QIcon icon = Skin::Picture(QLatin1String(picture));
     if (button && !icon.isNull()) button->setIcon(icon);
   }

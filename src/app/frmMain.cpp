@@ -219,6 +219,8 @@ void frmMain::MakeHeader() {
   brandRow->setContentsMargins(8, 0, 0, 0);
   brandRow->setSpacing(14);
   auto *mark = new QLabel(brand);
+  mark->setAccessibleName(Maker::Title);
+  mark->setAccessibleDescription(tr("The emblem of the program: a crescent around the Sun"));
   mark->setPixmap(Skin::Pixmap(QStringLiteral("mark"), QSize(46, 46), devicePixelRatioF()));
   auto *names = new QVBoxLayout;
   names->setSpacing(0);

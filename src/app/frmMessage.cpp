@@ -40,6 +40,7 @@ frmMessage::frmMessage(clsIni configuration, QWidget *parent)
 
   auto *picture = new QLabel;
   picture->setPixmap(Skin::Pixmap(QStringLiteral("msgInfo"), QSize(40, 40), devicePixelRatioF()));
+  picture->setAccessibleName(tr("Information"));
   picture->setAlignment(Qt::AlignTop);
   lblMessage = new QLabel;
   lblMessage->setObjectName(QStringLiteral("lblMessage"));

@@ -30,6 +30,7 @@ frmStatus::frmStatus(QWidget *parent) : QDialog(parent, Qt::Dialog | Qt::Customi
 
   ani1 = new QLabel;
   ani1->setObjectName(QStringLiteral("ani1"));
+  ani1->setAccessibleName(tr("The Moon on its way through the nakshatras"));
   lblHead = new QLabel;
   lblHead->setProperty("role", "head");
   fonts.SetSubHeadFont(*lblHead);

@@ -106,6 +106,20 @@ QPointF Kundali::ToChart(const QPointF &position) const {
   return {(position.x() - area.left()) * ChartLayout::Side / area.width(), (position.y() - area.top()) * ChartLayout::Side / area.height()};
 }
 
+QRect Kundali::PartRoom(int cell) const {
+  const QRectF area = ChartRect();
+  const QRectF room = Layout().CellShape(cell).boundingRect();
+  const double across = area.width() / ChartLayout::Side, down = area.height() / ChartLayout::Side;
+  return QRectF(area.left() + room.left() * across, area.top() + room.top() * down, room.width() * across, room.height() * down).toRect();
+}
+
+// The cells are slanted: their rectangles overlap.
+int Kundali::PartAt(const QPoint &point) const {
+  for (int cell = 0; cell < PartCount(); ++cell)
+    if (Layout().CellShape(cell).containsPoint(ToChart(point), Qt::OddEvenFill)) return cell;
+  return -1;
+}
+
 bool Kundali::IsOverPart(const QPointF &position) const {
   const ChartLayout &layout = model_.Layout();
   const auto holds = [&position](const ChartLayout::Text &text) { return text.visible && text.box.contains(position); };

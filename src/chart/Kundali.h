@@ -8,10 +8,11 @@
 
 #include "chart/ChartPalette.h"
 #include "chart/KundaliModel.h"
+#include "chart/SpokenParts.h"
 
 /// The chart on screen. Filled by Clear, SetChartStyle, SetHouseNumber and PlanetPlace, in this order.
 /// Positions in its mouse events are in the chart's own square of 1000 by 1000 units.
-class Kundali : public QWidget {
+class Kundali : public QWidget, public SpokenParts {
   Q_OBJECT
   Q_PROPERTY(int ChartStyle READ ChartStyle WRITE SetChartStyle NOTIFY ChartChanged)
   Q_PROPERTY(int HouseNumber READ HouseNumber WRITE SetHouseNumber NOTIFY ChartChanged)
@@ -73,6 +74,12 @@ class Kundali : public QWidget {
 
   /// Colours for good, in place of those that follow the desktop's light or dark scheme.
   void SetSkin(const ChartPalette &skin);
+
+  void SetSpokenNames(KundaliModel::SpokenNames names) { model_.SetSpokenNames(std::move(names)); }
+  int PartCount() const override { return ChartLayout::Cells; }
+  QString PartWords(int cell) const override { return model_.CellWords(cell); }
+  QRect PartRoom(int cell) const override;
+  int PartAt(const QPoint &point) const override;
 
   QSize sizeHint() const override { return {320, 320}; }
   QSize minimumSizeHint() const override { return {200, 200}; }

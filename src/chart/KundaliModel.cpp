@@ -280,17 +280,27 @@ const ChartLayout::Text &KundaliModel::lblHouseNo(int index) const {
   return layout_.lblHouseNo[static_cast<size_t>(index)];
 }
 
+QString KundaliModel::CellWords(int cell) const {
+  QStringList planets;
+  for (const QString &name : lblPlanet(cell).caption.split(QLatin1Char(' '), Qt::SkipEmptyParts))
+    planets << spoken_.planets.value(name, name);
+  const QString held = planets.isEmpty() ? QCoreApplication::translate("Kundali", "empty") : planets.join(QStringLiteral(", "));
+  const bool isNorth = layout_.style == ChartLayout::North;
+  const int sign = isNorth ? lblHouseNo(cell).caption.toInt() : cell + 1;
+  const bool isNamed = sign >= 1 && sign <= static_cast<int>(spoken_.signs.size());
+  const QString number = QString::number(cell + 1);
+  if (!isNamed)
+    return isNorth ? QCoreApplication::translate("Kundali", "House %1, sign %2: %3.").arg(number, lblHouseNo(cell).caption, held)
+                   : QCoreApplication::translate("Kundali", "Sign %1: %2.").arg(number, held);
+  const QString &name = spoken_.signs[static_cast<size_t>(sign - 1)];
+  return isNorth ? QCoreApplication::translate("Kundali", "House %1, %2: %3.").arg(number, name, held)
+                 : QStringLiteral("%1: %2.").arg(name, held);
+}
+
 QString KundaliModel::Description() const {
   QStringList cells;
-  for (int i = 0; i < Cells; ++i) {
-    const QString text = lblPlanet(i).caption.trimmed();
-    if (text.isEmpty()) continue;
-    const QString planets = text.split(QLatin1Char(' '), Qt::SkipEmptyParts).join(QStringLiteral(", "));
-    cells << (layout_.style == ChartLayout::North
-                  ? QCoreApplication::translate("Kundali", "House %1, sign %2: %3.")
-                        .arg(QString::number(i + 1), lblHouseNo(i).caption, planets)
-                  : QCoreApplication::translate("Kundali", "Sign %1: %2.").arg(QString::number(i + 1), planets));
-  }
+  for (int i = 0; i < Cells; ++i)
+    if (!lblPlanet(i).caption.trimmed().isEmpty()) cells << CellWords(i);
   return cells.isEmpty() ? QCoreApplication::translate("Kundali", "No planets are placed.") : cells.join(QLatin1Char(' '));
 }
 

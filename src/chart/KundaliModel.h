@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QFont>
+#include <QHash>
 #include <QImage>
 #include <QList>
 #include <QPair>
@@ -11,6 +12,7 @@
 
 #include <functional>
 #include <optional>
+#include <vector>
 
 #include "chart/ChartLayout.h"
 
@@ -61,6 +63,17 @@ class KundaliModel {
   /// A cell's planet text and number box. Throw SubscriptError outside 0 to 11.
   const ChartLayout::Text &lblPlanet(int index) const;
   const ChartLayout::Text &lblHouseNo(int index) const;
+
+  /// The words of a chart that is heard: the twelve signs from Aries on, and a planet's whole name by its short one.
+  struct SpokenNames {
+    std::vector<QString> signs;
+    QHash<QString, QString> planets;
+  };
+  /// Where a name is missing the number of the sign, and the planet as it is written, stand in its place.
+  void SetSpokenNames(SpokenNames names) { spoken_ = std::move(names); }
+
+  /// A cell in words, such as "House 1, Virgo: Ascendant, Mars." Throws SubscriptError outside 0 to 11.
+  QString CellWords(int cell) const;
 
   /// Where the planets of each cell stand, in words for a reader who does not see the drawing; empty cells are left out.
   QString Description() const;
@@ -128,4 +141,5 @@ class KundaliModel {
   bool enabled_ = true;
   bool numbersHidden_ = false;
   bool invisHouseNum_ = false;
+  SpokenNames spoken_;
 };

@@ -35,10 +35,15 @@ QByteArray InTheme(QByteArray drawing) {
   return drawing;
 }
 
-QByteArray Drawing(const QString &name, Skin::State state) {
+QByteArray FileOf(const QString &name, Skin::State state) {
   const char *suffix = state == Skin::State::Hover ? "-hover" : state == Skin::State::Down ? "-down" : "";
   QFile file(QStringLiteral("%1/%2%3.svg").arg(Folder(), name, QLatin1String(suffix)));
-  return file.open(QIODevice::ReadOnly) ? InTheme(file.readAll()) : QByteArray();
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QByteArray InOneInk(QByteArray drawing, const QColor &ink) {
+  for (const char *colour : {"#2B2320", "#B9540F"}) drawing.replace(colour, ink.name().toLatin1());
+  return drawing;
 }
 
 // Draws the SVG at every size and scale that is asked for.
@@ -93,27 +98,20 @@ QIcon Picture(const QString &name, State state) {
     qAddPostRoutine([] { pictures.clear(); });  // pixmaps end before the application does
     return QHash<QString, QIcon>();
   }();
-  const QString key = QStringLiteral("%1/%2/%3/%4").arg(Folder(), name).arg(static_cast<int>(state)).arg(Theme::Current().chart.ink.name());
+  const ChartPalette &colours = Theme::Current().chart;
+  const QString key =
+      QStringLiteral("%1/%2/%3/%4/%5").arg(Folder(), name).arg(static_cast<int>(state)).arg(colours.ink.name(), colours.saffron.name());
   const auto known = pictures.constFind(key);
   if (known != pictures.cend()) return *known;
-  const QByteArray drawing = Drawing(name, state);
+  const QByteArray drawing = FileOf(name, state);
   if (drawing.isEmpty()) return {};
-  auto renderer = std::make_shared<QSvgRenderer>(drawing);
-  return renderer->isValid() ? *pictures.insert(key, QIcon(new DrawingEngine(std::move(renderer)))) : QIcon();
-}
-
-QIcon OnPrimary(const QString &name) {
-  QFile file(QStringLiteral("%1/%2.svg").arg(Folder(), name));
-  if (!file.open(QIODevice::ReadOnly)) return {};
-  const QByteArray drawing = file.readAll();
-  const auto inOneInk = [&](const QColor &ink) {
-    QByteArray inked = drawing;
-    for (const char *colour : {"#2B2320", "#B9540F"}) inked.replace(colour, ink.name().toLatin1());
-    return std::make_shared<QSvgRenderer>(inked);
-  };
   const Theme &theme = Theme::Current();
-  auto renderer = inOneInk(theme.dark ? theme.chart.paper : theme.chart.card);
-  return renderer->isValid() ? QIcon(new DrawingEngine(std::move(renderer), inOneInk(theme.chart.muted))) : QIcon();
+  const bool onPrimary = state == State::OnPrimary;
+  auto renderer = std::make_shared<QSvgRenderer>(onPrimary ? InOneInk(drawing, theme.OnPrimary()) : InTheme(drawing));
+  if (!renderer->isValid()) return {};
+  // A primary button that is disabled has a pale ground, and its words the muted ink.
+  auto disabled = onPrimary ? std::make_shared<QSvgRenderer>(InOneInk(drawing, theme.chart.muted)) : nullptr;
+  return *pictures.insert(key, QIcon(new DrawingEngine(std::move(renderer), std::move(disabled))));
 }
 
 QPixmap Pixmap(const QString &name, const QSize &size, qreal devicePixelRatio) { return Picture(name).pixmap(size, devicePixelRatio); }

@@ -9,16 +9,14 @@
 // empty icon: the button that wanted it shows its text.
 namespace Skin {
 
-enum class State { Normal, Hover, Down };
+// OnPrimary: in the one colour of the words on a primary button.
+enum class State { Normal, Hover, Down, OnPrimary };
 
 // folder: the full path of EPHE/SKIN.
 void SetFolder(const QString &folder);
 
 // name: the element's name, such as "flpCharts" or "page09".
 QIcon Picture(const QString &name, State state = State::Normal);
-
-// The picture for a button of the role "primary", in the one ink that stands out on its ground.
-QIcon OnPrimary(const QString &name);
 
 // The drawing as a pixmap of a size in device-independent pixels, for labels.
 QPixmap Pixmap(const QString &name, const QSize &size, qreal devicePixelRatio);

@@ -19,6 +19,7 @@ Theme Light() {
   theme.badBack = QColor(0xF8, 0xE4, 0xE1);
   theme.selection = QColor(0xF4, 0xE7, 0xD3);
   theme.tint = QColor(0xFB, 0xF7, 0xF0);
+  theme.edge = QColor(0x8D, 0x80, 0x71);
   return theme;
 }
 
@@ -31,8 +32,17 @@ Theme Dark() {
   theme.badBack = QColor(0x45, 0x28, 0x26);
   theme.selection = QColor(0x46, 0x37, 0x28);
   theme.tint = theme.chart.paper;
+  theme.edge = QColor(0x8A, 0x7B, 0x70);
   theme.dark = true;
   return theme;
+}
+
+void Strengthen(Theme &theme) {
+  theme.chart.line = theme.chart.muted;
+  theme.chart.muted = theme.chart.ink;
+  theme.chart.number = theme.chart.ink;
+  theme.tint = theme.chart.card;
+  theme.edge = theme.chart.ink;
 }
 
 Theme &Chosen() {
@@ -44,9 +54,13 @@ Theme &Chosen() {
 
 const Theme &Theme::Current() { return Chosen(); }
 
-void Theme::Apply(QApplication &application, const QString &arrow) {
-  const QColor window = application.palette().color(QPalette::Window);
-  Chosen() = window.lightness() < 128 ? Dark() : Light();
+void Theme::Apply(QApplication &application, const QString &skinFolder) {
+  Apply(application, DesktopScheme::From({}, {}, application.palette()), skinFolder);
+}
+
+void Theme::Apply(QApplication &application, const DesktopScheme &scheme, const QString &skinFolder) {
+  Chosen() = scheme.dark ? Dark() : Light();
+  if (scheme.highContrast) Strengthen(Chosen());
   const Theme &theme = Current();
   QPalette palette = application.palette();
   palette.setColor(QPalette::Window, theme.chart.paper);
@@ -69,13 +83,12 @@ void Theme::Apply(QApplication &application, const QString &arrow) {
   face.setFamilies({QStringLiteral("Arial"), QStringLiteral("Liberation Sans")});
   face.setPointSizeF(10);
   QApplication::setFont(face);
-  application.setStyleSheet(theme.StyleSheet(arrow));
+  application.setStyleSheet(theme.StyleSheet(skinFolder));
 }
 
 // Roles of widgets are told by the dynamic property "role": card, title, head, caption, value, bad, good, primary.
-QString Theme::StyleSheet(const QString &arrow) const {
+QString Theme::StyleSheet(const QString &skinFolder) const {
   QString sheet = QStringLiteral(R"(
-    QWidget { color: @ink; }
     QMainWindow, QDialog { background: @paper; }
     QFrame[role="card"] { background: @card; border: 1px solid @line; border-radius: 10px; }
     QFrame[role="rule"] { background: @line; border: none; max-height: 1px; min-height: 1px; }
@@ -85,9 +98,9 @@ QString Theme::StyleSheet(const QString &arrow) const {
     QFrame[role="navrow"] { background: transparent; border: none; border-left: 4px solid transparent; border-top-right-radius: 8px; border-bottom-right-radius: 8px; }
     QFrame[role="navrow"][chosen="true"] { background: @selection; border-left: 4px solid @saffron; }
     QLabel[role="brand"] { color: @maroon; font-size: 20pt; font-weight: bold; }
-    QPushButton[role="headlink"] { background: transparent; border: none; color: @maroon; padding: 0; text-align: left; min-height: 20px; }
+    QPushButton[role="headlink"] { background: transparent; border: 2px solid transparent; margin: -2px; color: @maroon; padding: 0; text-align: left; min-height: 20px; }
     QPushButton[role="headlink"]:hover { color: @accent; text-decoration: underline; }
-    QPushButton[role="headlink"]:focus { border: none; color: @accent; text-decoration: underline; }
+    QPushButton[role="headlink"]:focus { border-color: @saffron; border-radius: 6px; padding: 0; color: @accent; text-decoration: underline; }
     QLabel[role="title"], QLabel[role="head"] { color: @maroon; }
     QLabel[role="caption"] { color: @muted; }
     QLabel[role="bad"] { color: @bad; }
@@ -101,17 +114,21 @@ QString Theme::StyleSheet(const QString &arrow) const {
     QPushButton:disabled { color: @muted; background: @paper; }
     QPushButton[role="primary"] { background: @maroon; color: @onmaroon; border-color: @maroon; }
     QPushButton[role="primary"]:hover { background: @saffron; border-color: @saffron; }
+    QPushButton[role="primary"]:focus { border: 2px dashed @onmaroon; }
     QPushButton[role="primary"]:disabled { background: @line; border-color: @line; color: @muted; }
-    QPushButton[role="link"] { background: transparent; border: none; color: @maroon; padding: 2px; text-decoration: underline; }
-    QLineEdit, QComboBox, QSpinBox, QDateEdit, QPlainTextEdit, QTextEdit { background: @card; border: 1px solid @line; border-radius: 6px;
+    QPushButton[role="link"] { background: transparent; border: 2px solid transparent; color: @maroon; padding: 0; text-decoration: underline; }
+    QPushButton[role="link"]:focus { border-color: @saffron; border-radius: 6px; padding: 0; }
+    QLineEdit, QComboBox, QSpinBox, QDateEdit, QPlainTextEdit, QTextEdit { background: @card; border: 1px solid @edge; border-radius: 6px;
       padding: 5px 8px; selection-background-color: @selection; selection-color: @ink; }
+    QTextEdit { border-color: @line; }
     QLineEdit:focus, QComboBox:focus, QSpinBox:focus, QDateEdit:focus, QPlainTextEdit:focus { border: 2px solid @saffron; padding: 4px 7px; }
     QComboBox::drop-down { border: none; width: 22px; }
-    QComboBox[role="headercard"] { background: @paper; border-radius: 10px; padding: 4px 8px 4px 12px; }
+    QComboBox[role="headercard"] { background: @paper; border-color: @line; border-radius: 10px; padding: 4px 8px 4px 12px; }
     QComboBox[role="headercard"]:hover { background: @selection; }
-    QComboBox[role="headercard"]:focus { padding: 3px 7px 3px 11px; }
+    QComboBox[role="headercard"]:focus { border-color: @saffron; padding: 3px 7px 3px 11px; }
     QComboBox QAbstractItemView, QListView, QTreeView, QTableView { background: @card; border: 1px solid @line; outline: none;
       selection-background-color: @selection; selection-color: @ink; }
+    QListView:focus, QTreeView:focus, QTableView:focus { border: 2px solid @saffron; }
     QListView::item, QTreeView::item { padding: 6px 8px; border-radius: 6px; }
     QListView::item:hover, QTreeView::item:hover { background: @tint; }
     QListView::item:selected, QTreeView::item:selected { background: @selection; color: @ink; }
@@ -128,27 +145,41 @@ QString Theme::StyleSheet(const QString &arrow) const {
     QProgressBar::chunk { background: @saffron; border-radius: 5px; }
     QRadioButton, QCheckBox { spacing: 8px; padding: 3px; }
     QRadioButton:focus, QCheckBox:focus { border: 1px solid @saffron; border-radius: 6px; padding: 2px; }
-    QRadioButton::indicator, QCheckBox::indicator { width: 14px; height: 14px; border: 1px solid @muted; background: @card; }
+    QRadioButton::indicator, QCheckBox::indicator, QTreeView::indicator { width: 14px; height: 14px; border: 1px solid @muted; background: @card; }
     QRadioButton::indicator { border-radius: 8px; }
-    QCheckBox::indicator { border-radius: 4px; }
+    QCheckBox::indicator, QTreeView::indicator { border-radius: 4px; }
     QRadioButton::indicator:checked { border-color: @saffron;
       background: qradialgradient(cx:0.5, cy:0.5, radius:0.5, fx:0.5, fy:0.5, stop:0 @saffron, stop:0.5 @saffron, stop:0.6 @card, stop:1 @card); }
-    QCheckBox::indicator:checked { border-color: @saffron;
-      background: qradialgradient(cx:0.5, cy:0.5, radius:0.7, fx:0.5, fy:0.5, stop:0 @saffron, stop:0.65 @saffron, stop:0.75 @card, stop:1 @card); }
+    QCheckBox::indicator:checked, QTreeView::indicator:checked { border-color: @saffron; background: @saffron; }
     QToolTip { background: @card; color: @ink; border: 1px solid @line; padding: 4px; }
     QTabBar::tab { padding: 8px 16px; border-bottom: 2px solid transparent; color: @muted; }
     QTabBar::tab:selected { color: @maroon; border-bottom: 2px solid @saffron; }
+    QTabBar::tab:focus { border: 2px solid @saffron; border-radius: 6px; padding: 6px 14px 8px 14px; }
     QTabWidget::pane { border: 1px solid @line; border-radius: 10px; background: @card; }
   )");
-  const std::pair<const char *, QColor> roles[] = {{"@paper", chart.paper},   {"@card", chart.card},
-                                                   {"@line", chart.line},     {"@ink", chart.ink},
-                                                   {"@muted", chart.muted},   {"@onmaroon", dark ? chart.paper : chart.card},
-                                                   {"@maroon", chart.maroon}, {"@saffron", chart.saffron},
-                                                   {"@accent", chart.accent}, {"@gold", chart.gold},
-                                                   {"@goodBack", goodBack},   {"@good", good},
-                                                   {"@badBack", badBack},     {"@bad", bad},
-                                                   {"@selection", selection}, {"@tint", tint}};
-  if (!arrow.isEmpty()) sheet += QStringLiteral("QComboBox::down-arrow { image: url(%1); width: 16px; height: 16px; }").arg(arrow);
+  const std::pair<const char *, QColor> roles[] = {{"@paper", chart.paper},
+                                                   {"@card", chart.card},
+                                                   {"@line", chart.line},
+                                                   {"@ink", chart.ink},
+                                                   {"@muted", chart.muted},
+                                                   {"@onmaroon", OnPrimary()},
+                                                   {"@maroon", chart.maroon},
+                                                   {"@saffron", chart.saffron},
+                                                   {"@accent", chart.accent},
+                                                   {"@gold", chart.gold},
+                                                   {"@goodBack", goodBack},
+                                                   {"@good", good},
+                                                   {"@badBack", badBack},
+                                                   {"@bad", bad},
+                                                   {"@selection", selection},
+                                                   {"@tint", tint},
+                                                   {"@edge", edge}};
+  if (!skinFolder.isEmpty()) {
+    sheet += QStringLiteral(
+                 "QComboBox::down-arrow { image: url(%1/ctlDown%2.svg); width: 16px; height: 16px; }"
+                 "QCheckBox::indicator:checked, QTreeView::indicator:checked { background: @card; image: url(%1/ctlTick%2.svg); }")
+                 .arg(skinFolder, dark ? QStringLiteral("-dark") : QString());
+  }
   // One sheet for all pages: a sheet of its own would have each page's widgets dressed twice.
   sheet.replace(QLatin1String("@ringround"), QStringLiteral("%1px").arg(Grid::CardRadius + PageScroll::Ring));
   sheet.replace(QLatin1String("@ring"), QStringLiteral("%1px").arg(PageScroll::Ring));

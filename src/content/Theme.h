@@ -6,6 +6,7 @@
 #include <QString>
 
 #include "chart/ChartPalette.h"
+#include "platform/gui/DesktopScheme.h"
 
 class QApplication;
 
@@ -16,15 +17,21 @@ struct Theme {
   QColor good, goodBack, bad, badBack;
   QColor selection;  // the chosen row, the button under the pointer
   QColor tint;       // every second row of a table
+  QColor edge;       // around what is typed into
   bool dark = false;
+
+  // The words on a button of the maroon.
+  QColor OnPrimary() const { return dark ? chart.paper : chart.card; }
 
   static const Theme &Current();
 
-  // Chooses by the desktop's scheme and dresses the whole program.
-  // arrow: the picture file of a list's arrow; none for an empty path.
-  static void Apply(QApplication &application, const QString &arrow = QString());
+  // Dresses the whole program in the scheme; in high contrast rules are as strong as words, and no word is muted.
+  // skinFolder: holds the pictures inside controls, a list's arrow and a tick; without it they are plain.
+  static void Apply(QApplication &application, const DesktopScheme &scheme, const QString &skinFolder = QString());
+  // In the scheme that the application's palette has.
+  static void Apply(QApplication &application, const QString &skinFolder = QString());
 
-  QString StyleSheet(const QString &arrow) const;
+  QString StyleSheet(const QString &skinFolder) const;
 };
 
 // The 8 px grid: distances of the layouts, in device-independent pixels.

@@ -72,6 +72,7 @@ Kundali *MakeSample(int style) {
     for (const QString &name : QString::fromLatin1(placed.names).split(QLatin1Char(' '))) chart->PlanetPlace(placed.sign, name);
   ShellFonts().SetKundaliFont(*chart);
   chart->SetHouseFont(ShellFonts().SmallFont());
+  chart->setAccessibleName(frmSettings::tr("Sample of the style"));
   chart->setFocusPolicy(Qt::NoFocus);  // the option below it is the way for the keyboard
   chart->setMinimumSize(150, 150);
   chart->setMaximumSize(220, 220);
@@ -102,6 +103,11 @@ frmSettings::frmSettings(UserSettings &userSettings, clsIni configuration, QWidg
   MakeKundaliStyle();
   MakeRahuKetu();
   MakeYourDetails();
+  QWidget *before = txtAddress;  // the buttons come after what they lead on from
+  for (QPushButton *button : {flpCancel, flpPrevFrame, flpNextFrame, flpFinish}) {
+    setTabOrder(before, button);
+    before = button;
+  }
   setMinimumSize(640, 440);
   resize(780, 560);
 
@@ -158,6 +164,7 @@ QVBoxLayout *frmSettings::AddFrame(const Step &step) {
   if (!picture.isNull()) {
     auto *icon = new QLabel;
     icon->setPixmap(picture);
+    icon->setAccessibleName(tr(step.title));
     head->addWidget(icon);
   }
   head->addWidget(MakeLabel(tr(step.title), "title", ShellFonts().HeadFont()), 1);

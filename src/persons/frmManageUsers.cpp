@@ -314,7 +314,7 @@ QWidget *frmManageUsers::MakeButtons() {
   QPushButton *save = MakeButton("flpSave", tr("&Save"), tr("Save this person with the residence."));
   QPushButton *close = MakeButton("flpClose", tr("&Close"), tr("Close, and show the day of this person."));
   save->setProperty("role", "primary");
-  save->setIcon(Skin::OnPrimary(QStringLiteral("flpSave")));
+  save->setIcon(Skin::Picture(QStringLiteral("flpSave"), Skin::State::OnPrimary));
   for (QPushButton *button : {cityList, import, exporting}) layout->addWidget(button);
   layout->addStretch();
   layout->addWidget(save);

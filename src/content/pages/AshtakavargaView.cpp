@@ -23,7 +23,7 @@ namespace {
 
 constexpr int Signs = 12, SumColumn = Signs;
 constexpr int ChartHeight = 400;  // about as wide as high
-constexpr double WarmestShare = 0.5;
+constexpr double WarmestShare = 0.45;
 
 // From the card's colour to half gold, on which the ink stays readable in both schemes. share: 0 to 1.
 QColor Heat(double share) {
@@ -116,6 +116,7 @@ void AshtakavargaView::ShowChosen() {
   const AshtakavargaPage::Row &row = page.rows[static_cast<size_t>(chosen)];
   chartHead->setText(row.name);
   chart->setAccessibleName(row.name);
+  chart->SetSpokenNames({{page.signName.begin() + 1, page.signName.end()}, {}});
   FillChart(*chart, page.ChartOf(static_cast<size_t>(chosen)), *settings);
 }
 

@@ -63,6 +63,7 @@ CaptionTable::CaptionTable(std::vector<Column> tableColumns, int rowCount, int f
   hasHeads = std::any_of(columns.begin(), columns.end(), [](const Column &column) { return !column.head.isEmpty(); });
   for (size_t c = 0; c < columns.size(); ++c) {
     const Column &column = columns[c];
+    if (!column.picture) toldColumns.push_back(c);
     heads.push_back(column.head.isEmpty() ? nullptr : MakeLabel(this, column.head, "caption", true, column.alignment, true));
     if (heads.back()) heads.back()->setContentsMargins(0, 2, 0, 6);
     if (heads.back()) grid->addWidget(heads.back(), 0, static_cast<int>(c));
@@ -121,6 +122,12 @@ QLabel &CaptionTable::Cell(int row, int column) const {
   if (!label) throw SubscriptError(QStringLiteral("The table's column %1 holds pictures.").arg(column));
   return *label;
 }
+
+QLabel *CaptionTable::SpokenCell(int row, int column) const {
+  return qobject_cast<QLabel *>(cells[static_cast<size_t>(row) * columns.size() + toldColumns[static_cast<size_t>(column)]]);
+}
+
+QLabel *CaptionTable::SpokenColumnHead(int column) const { return heads[toldColumns[static_cast<size_t>(column)]]; }
 
 void CaptionTable::SetPicture(int row, int column, const QString &skinName) {
   SubscriptError::Check("table row", row, 0, rows - 1);

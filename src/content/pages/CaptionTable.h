@@ -8,12 +8,14 @@
 #include <QWidget>
 #include <vector>
 
+#include "content/pages/SpokenTable.h"
+
 class SetFonts;
 
 // A table of captions: heads over a gold rule, every second row tinted, one row marked as the running one. Rows share
 // the height that there is, from 1.6 to 2.5 times the text's height. Cells are labels under their element's name and
 // row number.
-class CaptionTable : public QWidget {
+class CaptionTable : public QWidget, public SpokenTable {
   Q_OBJECT
 
  public:
@@ -57,6 +59,13 @@ class CaptionTable : public QWidget {
 
   QSize minimumSizeHint() const override;
 
+  // Pictures repeat the words beside them and are not told; the first caption of a row is its head.
+  int SpokenRows() const override { return rows; }
+  int SpokenColumns() const override { return static_cast<int>(toldColumns.size()); }
+  QLabel *SpokenCell(int row, int column) const override;
+  QLabel *SpokenColumnHead(int column) const override;
+  QLabel *SpokenRowHead(int row) const override { return SpokenCell(row, 0); }
+
  protected:
   void paintEvent(QPaintEvent *event) override;
   void resizeEvent(QResizeEvent *event) override;
@@ -70,6 +79,7 @@ class CaptionTable : public QWidget {
   int CompactSaving() const;
 
   std::vector<Column> columns;
+  std::vector<size_t> toldColumns;
   int rows = 0;
   int first;  // row number of row 0
   bool hasHeads = false;

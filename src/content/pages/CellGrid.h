@@ -7,12 +7,14 @@
 #include <QWidget>
 #include <vector>
 
+#include "content/pages/SpokenTable.h"
+
 class QGridLayout;
 class SetFonts;
 
 // A grid of short figures between heads above and at the left, where a cell's ground can carry a colour. Cells are
 // labels named element, row, "_" and column; the heads element + "Row" and element + "Column" with their number.
-class CellGrid : public QWidget {
+class CellGrid : public QWidget, public SpokenTable {
   Q_OBJECT
 
  public:
@@ -29,6 +31,12 @@ class CellGrid : public QWidget {
   int RunningRow() const { return running; }
 
   void ApplyFonts(const SetFonts &fonts);
+
+  int SpokenRows() const override { return rows; }
+  int SpokenColumns() const override { return columns; }
+  QLabel *SpokenCell(int row, int column) const override { return &Cell(row, column); }
+  QLabel *SpokenColumnHead(int column) const override { return &ColumnHead(column); }
+  QLabel *SpokenRowHead(int row) const override { return &RowHead(row); }
 
  protected:
   void paintEvent(QPaintEvent *event) override;

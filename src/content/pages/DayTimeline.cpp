@@ -22,8 +22,33 @@ void DayTimeline::SetPage(const ExactDayPage &dayPage) {
     for (const ExactDayPage::Bar &bar : lane.bars) spoken << bar.spoken;
   setAccessibleName(page.title);
   setAccessibleDescription(spoken.join(QStringLiteral("; ")));
+  TellParts(*this);
   updateGeometry();
   update();
+}
+
+int DayTimeline::PartCount() const {
+  size_t count = 0;
+  for (const ExactDayPage::Lane &lane : page.lanes) count += lane.bars.size();
+  return static_cast<int>(count);
+}
+
+std::pair<size_t, size_t> DayTimeline::BarOf(int number) const {
+  auto rest = static_cast<size_t>(number);
+  size_t lane = 0;
+  while (rest >= page.lanes[lane].bars.size()) rest -= page.lanes[lane++].bars.size();
+  return {lane, rest};
+}
+
+QString DayTimeline::PartWords(int bar) const {
+  const auto [lane, inLane] = BarOf(bar);
+  return QStringLiteral("%1: %2").arg(page.lanes[lane].head, page.lanes[lane].bars[inLane].spoken);
+}
+
+QRect DayTimeline::PartRoom(int bar) const {
+  const auto [lane, inLane] = BarOf(bar);
+  const DayTimelinePaint paint(page, font(), const_cast<DayTimeline *>(this));
+  return paint.BarRect(paint.Scale(rect()), rect(), lane, page.lanes[lane].bars[inLane]).toRect();
 }
 
 QString DayTimeline::TextAt(const QPoint &point) const {

@@ -22,13 +22,14 @@ class DayTimelinePaint {
   double MinimumWidth() const;
   void Paint(QPainter &painter, const QRectF &room, const PaintInks &inks) const;
 
+  // The drawn hours within the room, and a bar's place on them.
+  QRectF Scale(const QRectF &room) const;
+  QRectF BarRect(const QRectF &scale, const QRectF &room, size_t lane, const ExactDayPage::Bar &bar) const;
   // The bar under a point of the room, or none.
   const ExactDayPage::Bar *BarAt(const QRectF &room, const QPointF &point) const;
 
  private:
-  QRectF Scale(const QRectF &room) const;
   double LaneTop(size_t lane) const;  // from the room's top
-  QRectF BarRect(const QRectF &scale, const QRectF &room, size_t lane, const ExactDayPage::Bar &bar) const;
   void PaintGround(QPainter &painter, const QRectF &scale, const PaintInks &inks) const;
   void PaintHours(QPainter &painter, const QRectF &scale, const PaintInks &inks) const;
   void PaintBar(QPainter &painter, const QRectF &at, const ExactDayPage::Bar &bar, const PaintInks &inks) const;

@@ -53,10 +53,10 @@ void LargeChartView::Fill(SelvaniDailyMod &session) {
   card->Head()->setText(moment.toString(QStringLiteral("dddd, d MMMM yyyy, H:mm")));
   card->Caption()->setText(shown.clsPerson().GetBirthPlace());
   const QStringList styles{tr("North Indian style"), tr("East Indian style"), tr("South Indian style")};
-  lblStyle->setText(tr("%1, ayanamsha %2 %3")
-                        .arg(styles.value(session.Settings().IntValue(SettingKeys::KundStyle)), shown.AyanamshName(),
-                             clsPlanets::DecToDeg(shown.PlanetLongi(13))));
-  chart->setAccessibleName(card->Head()->text());
+  const int style = session.Settings().IntValue(SettingKeys::KundStyle);
+  lblStyle->setText(tr("%1, ayanamsha %2 %3").arg(styles.value(style), shown.AyanamshName(), clsPlanets::DecToDeg(shown.PlanetLongi(13))));
+  const QString kinds[] = {tr("Birth chart"), tr("Transit chart"), tr("Sunrise chart")};
+  chart->setAccessibleName(QStringLiteral("%1, %2, %3").arg(kinds[kindShown - 1], styles.value(style), card->Head()->text()));
 }
 
 void LargeChartView::ApplyFonts(const SetFonts &fonts) {

@@ -25,6 +25,7 @@ void MonthGrid::SetPage(const MonthPage &monthPage) {
   const auto today = std::find_if(page.cells.begin(), page.cells.end(), [](const MonthPage::Cell &cell) { return cell.isToday; });
   chosen = today == page.cells.end() ? 0 : static_cast<int>(today - page.cells.begin());
   setAccessibleName(page.title);
+  TellParts(*this);
   Choose(chosen);
   setMinimumHeight(NeededHeight());
 }
@@ -71,7 +72,18 @@ void MonthGrid::Choose(int index) {
   const QString &spoken = page.cells[static_cast<size_t>(chosen)].spoken;
   setAccessibleDescription(spoken);
   setToolTip(spoken);
+  TellMarked(*this, chosen);
   update();
+}
+
+QRect MonthGrid::PartRoom(int day) const {
+  const MonthPaint paint(page, font(), const_cast<MonthGrid *>(this), width());
+  return paint.Cells(rect())[static_cast<size_t>(day)].toRect();
+}
+
+void MonthGrid::PressPart(int day) {
+  Choose(day);
+  Open();
 }
 
 void MonthGrid::Open() {
@@ -91,7 +103,8 @@ void MonthGrid::keyPressEvent(QKeyEvent *event) {
     case Qt::Key_PageUp: emit MonthWanted(-1); return;
     case Qt::Key_PageDown: emit MonthWanted(1); return;
     case Qt::Key_Return:
-    case Qt::Key_Enter: Open(); return;
+    case Qt::Key_Enter:
+    case Qt::Key_Space: Open(); return;
     default: QWidget::keyPressEvent(event); return;
   }
   if (wanted < 0 || wanted > last)

@@ -6,10 +6,11 @@
 #include <memory>
 
 #include "analysis/MonthPage.h"
+#include "chart/SpokenParts.h"
 #include "content/pages/MonthPaint.h"
 
 // The month on the screen: arrow keys and clicks choose a day, Enter or a double click asks to open it.
-class MonthGrid : public QWidget {
+class MonthGrid : public QWidget, public SpokenParts {
   Q_OBJECT
 
  public:
@@ -17,6 +18,13 @@ class MonthGrid : public QWidget {
 
   void SetPage(const MonthPage &monthPage);
   QDate Chosen() const;  // not valid before a day is chosen
+
+  QAccessible::Role SpokenRole() const override { return QAccessible::List; }
+  int PartCount() const override { return static_cast<int>(page.cells.size()); }
+  QString PartWords(int day) const override { return page.cells[static_cast<size_t>(day)].spoken; }
+  QRect PartRoom(int day) const override;
+  int MarkedPart() const override { return chosen; }
+  void PressPart(int day) override;
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;

@@ -116,6 +116,11 @@ void MonthPaint::Paint(QPainter &painter, const QRectF &room, const PaintInks &i
     painter.setPen(QPen(cell.isToday || isChosen ? inks.saffron : inks.line, text * (isChosen ? 0.18 : cell.isToday ? 0.12 : 0.06)));
     painter.setBrush(cell.isToday ? inks.day : inks.card);
     painter.drawRoundedRect(at, text * 0.35, text * 0.35);
+    if (isChosen && cell.isToday) {
+      // The frame of today is there without the focus too.
+      painter.setBrush(Qt::NoBrush);
+      painter.drawRoundedRect(at.adjusted(text * 0.3, text * 0.3, -text * 0.3, -text * 0.3), text * 0.2, text * 0.2);
+    }
     PaintCell(painter, cells[n], cell, inks);
   }
   painter.restore();

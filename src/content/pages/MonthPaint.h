@@ -22,6 +22,8 @@ class MonthPaint {
   double Height() const;  // that the weeks need
   // chosen: index of the cell with the focus, -1 for none. Weeks share what the room has beyond their need.
   void Paint(QPainter &painter, const QRectF &room, const PaintInks &inks, int chosen = -1) const;
+  // The days' places, in their order.
+  std::vector<QRectF> Cells(const QRectF &room) const;
   // Index of the cell at a point, -1 beside them.
   int CellAt(const QRectF &room, const QPointF &point) const;
 
@@ -34,7 +36,6 @@ class MonthPaint {
   double LongestWord() const;
   double WeekNeed(int week) const;
   double CellNeed(const MonthPage::Cell &cell) const;
-  std::vector<QRectF> Cells(const QRectF &room) const;
   void PaintCell(QPainter &painter, const QRectF &at, const MonthPage::Cell &cell, const PaintInks &inks) const;
   double WrappedHeight(const QFont &with, const QString &words, double width) const;
 

@@ -97,7 +97,7 @@ QLabel *OverviewView::Label(const char *name, const char *role) {
 
 void OverviewView::MakeExactLink(QPushButton &link) {
   link.setProperty("role", "link");
-  link.setStyleSheet(QStringLiteral("padding: 0; min-height: 0;"));
+  link.setStyleSheet(QStringLiteral("padding: 0; min-height: 0; border-width: 1px;"));
   link.setCursor(Qt::PointingHandCursor);
   link.hide();
   connect(&link, &QPushButton::clicked, this, [this] { emit GoToPage(ExactDayPageNumber); });

@@ -12,6 +12,7 @@
 
 namespace {
 constexpr int Padding = 14;
+constexpr double SmallestTitle = 0.75;  // of the title's size
 constexpr int LeastIcon = 36, MostIcon = 64;
 }  // namespace
 
@@ -74,10 +75,14 @@ void PageTile::paintEvent(QPaintEvent *) {
   const QRect helpRoom = fontMetrics().boundingRect(QRect(0, 0, words.width(), words.height()), Qt::TextWordWrap, help);
   const int used = titles.height() + 2 + helpRoom.height();
   words.setTop(std::max(words.top(), rect().center().y() - used / 2));
-  painter.setFont(titleFont);
+  // A title that is too long for a narrow tile is set a little smaller before it is cut.
+  QFont fitting = titleFont;
+  while (fitting.pointSizeF() > titleFont.pointSizeF() * SmallestTitle && QFontMetrics(fitting).horizontalAdvance(text()) > words.width())
+    fitting.setPointSizeF(fitting.pointSizeF() - 0.25);
+  painter.setFont(fitting);
   painter.setPen(theme.chart.ink);
   painter.drawText(QRect(words.left(), words.top(), words.width(), titles.height()), Qt::AlignLeft | Qt::AlignVCenter,
-                   titles.elidedText(text(), Qt::ElideRight, words.width()));
+                   QFontMetrics(fitting).elidedText(text(), Qt::ElideRight, words.width()));
   painter.setFont(font());
   painter.setPen(theme.chart.muted);
   painter.drawText(QRect(words.left(), words.top() + titles.height() + 2, words.width(), height()),

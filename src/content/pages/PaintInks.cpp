@@ -14,6 +14,7 @@ PaintInks From(const ChartPalette &chart) {
   inks.muted = chart.muted;
   inks.maroon = chart.maroon;
   inks.saffron = chart.saffron;
+  inks.accent = chart.accent;
   inks.gold = chart.gold;
   inks.accent = chart.accent;
   // The night is darker than the card, on a dark ground too.

@@ -4,8 +4,10 @@
 
 #include <QWidget>
 
+#include "chart/SpokenParts.h"
+
 // A score from 0 to 100 as a bar, in the colour of its tone; the number and the word stand beside it.
-class ScoreBar : public QWidget {
+class ScoreBar : public QWidget, public SpokenParts {
   Q_OBJECT
 
  public:
@@ -15,6 +17,11 @@ class ScoreBar : public QWidget {
 
   void SetScore(double score, Tone tone);
   double Score() const { return shown; }
+
+  QAccessible::Role SpokenRole() const override { return QAccessible::Graphic; }
+  int PartCount() const override { return 0; }
+  QString PartWords(int) const override { return {}; }
+  QRect PartRoom(int) const override { return {}; }
 
   QSize sizeHint() const override { return {120, 12}; }
   QSize minimumSizeHint() const override { return {60, 12}; }

@@ -38,6 +38,7 @@ void ScoreLine::SetCourse(const QString &name, const QDate &firstDay, std::vecto
   marked = -1;
   setAccessibleName(tr("%1 over the next days").arg(title));
   setAccessibleDescription(values.empty() ? QString() : TellDay(0));
+  TellParts(*this);
   updateGeometry();
   update();
 }
@@ -64,6 +65,12 @@ QPointF ScoreLine::PointOf(int day) const {
   return {plot.left() + share * plot.width(), plot.bottom() - values[static_cast<size_t>(day)] / 100 * plot.height()};
 }
 
+QRect ScoreLine::PartRoom(int day) const {
+  const QRectF plot = Plot();
+  const double half = plot.width() / std::max(1, 2 * LastDay());
+  return QRectF(PointOf(day).x() - half, plot.top(), 2 * half, plot.height()).toRect();
+}
+
 int ScoreLine::DayAt(double x) const {
   const QRectF plot = Plot();
   if (values.empty() || plot.width() <= 0) return -1;
@@ -82,6 +89,7 @@ void ScoreLine::Mark(int day) {
     QToolTip::hideText();
   } else {
     setAccessibleDescription(TellDay(day));
+    TellMarked(*this, day);
     QToolTip::showText(mapToGlobal(PointOf(day).toPoint()), title + QLatin1Char('\n') + TellDay(day), this);
   }
   update();

@@ -6,9 +6,11 @@
 #include <QWidget>
 #include <vector>
 
+#include "chart/SpokenParts.h"
+
 // A score from 0 to 100 over a row of days as a line. The day under the pointer, or the one that the arrow keys have
 // reached, is told in a tool tip; a click or Enter chooses it.
-class ScoreLine : public QWidget {
+class ScoreLine : public QWidget, public SpokenParts {
   Q_OBJECT
 
  public:
@@ -22,6 +24,13 @@ class ScoreLine : public QWidget {
   QString TellDay(int day) const;        // "Sunday, 22 November 2026: 75"
   int DayAt(double x) const;             // the nearest day of a place, pixels
   QPointF PointOf(int day) const;
+
+  QAccessible::Role SpokenRole() const override { return QAccessible::List; }
+  int PartCount() const override { return static_cast<int>(values.size()); }
+  QString PartWords(int day) const override { return TellDay(day); }
+  QRect PartRoom(int day) const override;
+  int MarkedPart() const override { return marked; }
+  void PressPart(int day) override { Choose(day); }
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;

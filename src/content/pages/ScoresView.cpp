@@ -111,7 +111,8 @@ void ScoresView::Fill(SelvaniDailyMod &session) {
     theme.level->setText(score.levelWord);
     SetRole(*theme.level, RoleOf(score.level));
     theme.bar->SetScore(score.today, ToneOf(score.level));
-    theme.bar->setAccessibleName(QStringLiteral("%1: %2, %3").arg(score.name, number, score.levelWord));
+    theme.bar->setAccessibleName(score.name);
+    theme.bar->setAccessibleDescription(QStringLiteral("%1, %2").arg(number, score.levelWord));
     theme.line->SetCourse(score.name, page.firstDay, {score.course.begin(), score.course.end()}, i + 1 == themes.size());
   }
 }

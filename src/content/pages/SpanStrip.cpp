@@ -29,6 +29,7 @@ SpanStrip::SpanStrip(QWidget *parent) : QWidget(parent) { setSizePolicy(QSizePol
 
 void SpanStrip::SetSpan(Span span) {
   shown = std::move(span);
+  TellParts(*this);
   updateGeometry();
   update();
 }
@@ -66,6 +67,21 @@ double SpanStrip::BarPixels() const {
 
 double SpanStrip::At(double place) const { return Side + (place - shown.from) * (width() - 2 * Side) / (shown.to - shown.from); }
 
+double SpanStrip::BarTop() const { return shown.namesAbove ? 2 * fontMetrics().height() + 6 : 3; }
+
+QString SpanStrip::PartWords(int number) const {
+  const Part &part = shown.parts[static_cast<size_t>(number)];
+  QStringList words{part.name};
+  if (part.tone != Tone::Plain) words << (part.tone == Tone::Good ? tr("good") : tr("bad"));
+  if (shown.moment >= part.begin && shown.moment < part.end) words << shown.momentWord;
+  return words.join(QStringLiteral(", "));
+}
+
+QRect SpanStrip::PartRoom(int number) const {
+  const Part &part = shown.parts[static_cast<size_t>(number)];
+  return QRectF(At(part.begin), BarTop(), At(part.end) - At(part.begin), BarPixels()).toRect();
+}
+
 QRectF SpanStrip::Write(QPainter &painter, double centre, double y, const QString &words) const {
   const QFontMetrics metrics(painter.font());
   const double wide = metrics.horizontalAdvance(words) + 2;
@@ -80,7 +96,7 @@ void SpanStrip::paintEvent(QPaintEvent *) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   const int text = fontMetrics().height();
-  const double top = shown.namesAbove ? 2 * text + 6 : 3;
+  const double top = BarTop();
   const double bar = BarPixels();
   if (shown.ground != Tone::Plain) {
     painter.setPen(QPen(theme.chart.line, 1));

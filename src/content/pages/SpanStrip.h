@@ -6,9 +6,11 @@
 #include <QWidget>
 #include <vector>
 
+#include "chart/SpokenParts.h"
+
 // A stretch of time as a bar: its parts in their true lengths, good and bad by colour and name, and the moment of the
 // analysis as a line. Places are numbers on one axis, such as minutes of the day.
-class SpanStrip : public QWidget {
+class SpanStrip : public QWidget, public SpokenParts {
   Q_OBJECT
 
  public:
@@ -42,6 +44,11 @@ class SpanStrip : public QWidget {
   void SetTall(bool tall);
   const Span &Shown() const { return shown; }
 
+  int PartCount() const override { return static_cast<int>(shown.parts.size()); }
+  // The part's name, whether it is good or bad, and whether it runs.
+  QString PartWords(int part) const override;
+  QRect PartRoom(int part) const override;
+
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override { return sizeHint(); }
 
@@ -57,6 +64,7 @@ class SpanStrip : public QWidget {
   void PaintParts(QPainter &painter, double top) const;
   void PaintTicks(QPainter &painter, double y) const;
   double At(double place) const;
+  double BarTop() const;
   QRectF Write(QPainter &painter, double centre, double y, const QString &words) const;
 
   double BarPixels() const;
