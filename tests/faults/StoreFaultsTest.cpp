@@ -405,7 +405,9 @@ TEST_F(StoreFaults, AConfigurationThatCannotBeUsedIsToldAndReplacedByTheUsualCho
     EXPECT_TRUE(notices.join('\n').contains(words)) << notices.join('\n');
     EXPECT_EQ(screen->Session().BirthChart().clsPerson().Name(), "Anvik Telvar");
     End();
-    if (!before.isEmpty()) EXPECT_EQ(ReadWholeFile(ini + ".damaged"), before) << "it stays for the user";
+    if (!before.isEmpty()) {
+      EXPECT_EQ(ReadWholeFile(ini + ".damaged"), before) << "it stays for the user";
+    }
     for (const QString &left : {ini, ini + ".damaged"}) {
       QDir(left).removeRecursively();
       QFile::remove(left);

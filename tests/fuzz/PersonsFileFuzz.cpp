@@ -41,7 +41,9 @@ void CheckSaved(const std::vector<PersonRecord> &persons) {
     Require(isThere, "each person of the file is in the store");
   }
   Require(store.SaveAll(persons).added == 0, "the same file again adds nobody");
-  store.GoBackTo(before);
+  QStringList names;
+  for (const PersonRecord &person : persons) names << person.Name.trimmed();
+  store.GoBackTo(before, names);
   Require(store.All().size() == former, "the import is undone");
 }
 

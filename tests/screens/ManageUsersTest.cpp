@@ -212,7 +212,7 @@ TEST_F(ManageUsers, ThePictureOfTheSaveButtonStandsOut) {
     const auto part = [](double c) { return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
     return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF()) + 0.0722 * part(colour.blueF());
   };
-  const QImage picture = Skin::OnPrimary("flpSave").pixmap(24, 24).toImage();
+  const QImage picture = Skin::Picture("flpSave", Skin::State::OnPrimary).pixmap(24, 24).toImage();
   int inked = 0;
   for (int i = 0; i < 24 * 24; ++i) {
     const QColor pixel = picture.pixelColor(i % 24, i / 24);
