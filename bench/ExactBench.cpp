@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Brivanta Works
 // SPDX-License-Identifier: AGPL-3.0-or-later
-// The exact day, a month and a year of it: at most 10 ms, 300 ms and 4 s.
+// The exact day, a month and a year of it: at most 10 ms, 300 ms and 4 s; and the Sun's part of one day, which pages ask for.
 #include <benchmark/benchmark.h>
 
 #include "panchang/ExactDay.h"
@@ -25,5 +25,15 @@ void ExactDays(benchmark::State &state) {
   }
 }
 BENCHMARK(ExactDays)->Arg(1)->Arg(31)->Arg(366)->Unit(benchmark::kMillisecond);
+
+void ExactSunOfDay(benchmark::State &state) {
+  const ExactRules rules = Agra();
+  QDate date(1980, 1, 1);
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(ExactDay::Of(date, rules, ExactDay::Extent::Sun));
+    date = date.addDays(1);
+  }
+}
+BENCHMARK(ExactSunOfDay)->Unit(benchmark::kMillisecond);
 
 }  // namespace

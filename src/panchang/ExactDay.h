@@ -44,7 +44,7 @@ struct ExactDay {
   std::optional<Stretch> Daylight() const;
   std::optional<Stretch> Night() const;
 
-  // What of a day is worked out: the Sun alone takes a tenth of the time, and leaves out the Moon, the limbs, the month and what is
+  // What of a day is worked out: the Sun alone takes a sixth of the time, and leaves out the Moon, the limbs, the month and what is
   // cut from them.
   enum class Extent { Whole, Sun };
 

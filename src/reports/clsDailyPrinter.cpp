@@ -190,7 +190,7 @@ QString clsDailyPrinter::TimesTitle(const QString &title, const QString &head) c
 }
 
 void clsDailyPrinter::PlaceTimesHead(const QString &head, double y) {
-  if (!head.isEmpty()) PlaceFitted(head, LeftMargin + Inches(3.4), y, Across::Center, Down::Top, Inches(6.6), {QLatin1String(NormFont), 9});
+  if (!head.isEmpty()) PlaceFitted(head, LeftMargin + Inches(3.3), y, Across::Center, Down::Top, Inches(6.4), {QLatin1String(NormFont), 9});
 }
 
 void clsDailyPrinter::Title(const QString &text, double x, double y, Down down) {

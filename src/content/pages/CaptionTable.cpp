@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr double TightRow = 1.6, RoomyRow = 2.5, VastRow = 4.2;  // row heights in text heights
+constexpr double TightRow = 1.6, RoomyRow = 2.5;  // row heights in text heights
 constexpr int WideGap = Grid::Gap + 4, NarrowGap = 5;
 constexpr int NarrowSide = 6, Side = 10;  // from the tint's edge to the text
 constexpr int RunningBar = 4;
@@ -174,7 +174,8 @@ void CaptionTable::FitRows() {
   const int text = cells.empty() ? fontMetrics().height() : cells.front()->fontMetrics().height();
   for (int row = 0; row < GridRow(rows); ++row)
     grid->setRowMinimumHeight(row, qRound(text * (roomy && (!hasHeads || row > 0) ? RoomyRow : TightRow)));
-  const int full = qRound(text * TightRow) + qRound(rows * text * (textSize == TextSize::Large ? VastRow : RoomyRow));
+  const double tallest = textSize == TextSize::Large ? 4.2 : textSize == TextSize::Normal ? 3.2 : RoomyRow;
+  const int full = qRound(text * TightRow) + qRound(rows * text * tallest);
   const int needed = hasHeightForWidth() ? heightForWidth(width()) : 0;
   // A few rows take all the height of a large page.
   setMaximumHeight(roomy && textSize == TextSize::Large ? QWIDGETSIZE_MAX : std::max(full, needed));

@@ -13,8 +13,8 @@
 class SetFonts;
 
 // A table of captions: heads over a gold rule, every second row tinted, one row marked as the running one. Rows share
-// the height that there is, from 1.6 to 2.5 times the text's height. Cells are labels under their element's name and
-// row number.
+// the height that there is, from 1.6 to 2.5 times the text's height, or more at larger text sizes. Cells are labels under their element's
+// name and row number.
 class CaptionTable : public QWidget, public SpokenTable {
   Q_OBJECT
 
