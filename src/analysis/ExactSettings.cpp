@@ -59,10 +59,12 @@ ExactZone ZoneOf(const clsPerson &person, const Ephemeris::Observer &place) {
   const QString name = ZoneNameOf(person, place);
   if (name.isEmpty()) return fixed;
   const ExactZone history(name, minutes);
-  // A difference that the zone does not know in this year is the user's own choice. In half a year both its differences are in force.
+  // A difference that the zone does not know in the year around the day is the user's own choice. Summer time may hold for eight
+  // months and standard time for four, so that the year is asked every two.
+  constexpr double halfYear = 183, step = 61;
   const double moment = fixed.UniversalOf(person.GetBirthDate());
-  for (const double day : {moment, moment - 182.0, moment + 182.0})
-    if (history.SecondsEastAt(day) == minutes * 60) return history;
+  for (double off = -halfYear; off <= halfYear; off += step)
+    if (history.SecondsEastAt(moment + off) == minutes * 60) return history;
   return fixed;
 }
 

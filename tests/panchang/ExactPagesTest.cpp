@@ -226,6 +226,15 @@ TEST_F(ExactPages, ReadTheClockOfAKnownPlace) {
   EXPECT_EQ(rules("+00.00").zone.Name(), "Europe/London");
   EXPECT_EQ(rules("+01.00").zone.Name(), "Europe/London");
   EXPECT_EQ(rules("+05.30").zone.Name(), "");
+  // In every month, also where summer time holds half a year before and after.
+  PlaceRecord newYork = Place("New York", "-05.00", 40, 43, "N", 74, 0, "W");
+  newYork.Country = QStringLiteral("United States of America");
+  withPlaces.SetResidence(newYork);
+  for (int month = 1; month <= 12; ++month) {
+    withPlaces.BuildAnalysis(Moment(2026, month, 9, 12));
+    EXPECT_EQ(ExactRulesOf(withPlaces.TodayChart()).zone.Name(), "America/New_York") << month;
+  }
+  withPlaces.SetResidence(std::nullopt);
   EXPECT_NEAR(rules("+00.00").place.longitude, -7 / 60.0, 1e-9);
 }
 
