@@ -5,6 +5,7 @@
 #include <sys/resource.h>
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -16,6 +17,7 @@ namespace {
 // From the start of the process to the window that is painted and takes keys. This program plays the window's part.
 void StartToUsableWindow(benchmark::State &state) {
   const QTemporaryDir home;  // of the settings: the wizard of the first start has been answered
+  QDir(home.path()).mkpath(QStringLiteral("orvani"));
   FileUserSettings(home.filePath(QStringLiteral("orvani/orvani.conf"))).SetBoolValue(SettingKeys::DoneSetup, true);
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
   environment.insert(QStringLiteral("XDG_CONFIG_HOME"), home.path());

@@ -12,25 +12,33 @@ MILLISECONDS = {"ns": 1e-6, "us": 1e-3, "ms": 1, "s": 1e3}
 
 # Benchmark, its counter (- for the time itself), what is wanted at most (- for nothing), unit, and what is measured.
 ROWS = [line.split(maxsplit=4) for line in """
-CalculateBesideBareCalls   ratio         1.15  times  `Calculate` over the same library calls made bare
-CalculateBesideBareCalls   calculate_ms  -     ms     `Calculate`, one chart
-SunRiseTimeOfANewChart     -             0.3   ms     sunrise search of a new chart
-OverviewOfAYear            -             1000  ms     overview of 365 days for one person
-ScoresOfThirtyDays         -             200   ms     seven day scores over thirty days
-OneGetHeadValue            -             0.01  ms     one text looked up
-ExactDays/1                -             10    ms     exact day
-ExactDays/31               -             300   ms     exact month
-ExactDays/366              -             4000  ms     exact year
-StartToUsableWindow        median_ms     400   ms     start to usable window, warm, whole process
-PageSwitchToPainted        worstFirst    16    ms     page switch to painted, first time on a day, worst page
-PageSwitchToPainted        worstAgain    16    ms     page switch to painted, again, worst page
-PersonChangeToPaintedPage  -             50    ms     person change to painted page
-DateChangeToPaintedPage    -             50    ms     date change to painted page
-ListOf10000Persons         -             200   ms     list of 10,000 persons read
-OnePersonOf10000           -             50    ms     one person of 10,000 found
-TypeOneLetterOfAPlace      -             10    ms     one letter typed in the list of 29,000 places
-DailyJsonAsAProcess        -             150   ms     `orvani-daily --json`, whole process
-DailyPdfAsAProcess         -             500   ms     `orvani-daily --pdf`, the full report, whole process
+CalculateBesideBareCalls               ratio         1.15  times  `Calculate` over the same library calls made bare
+CalculateBesideBareCalls               calculate_ms  -     ms     `Calculate`, one chart
+SunRiseTimeOfANewChart                 -             0.3   ms     sunrise search of a new chart
+OverviewOfAYear                        -             1000  ms     overview of 365 days for one person
+ScoresOfThirtyDays                     -             200   ms     seven day scores over thirty days
+OneGetHeadValue                        -             0.01  ms     one text looked up
+ExactDays/1                            -             10    ms     exact day
+ExactDays/31                           -             300   ms     exact month
+ExactDays/366                          -             4000  ms     exact year
+StartToUsableWindow                    median_ms     400   ms     start to usable window, warm, whole process
+PageSwitchToPainted                    worstFirst    16    ms     page switch to painted, first time on a day, worst page
+PageSwitchToPainted                    worstAgain    16    ms     page switch to painted, again, worst page
+PersonChangeToPaintedPage              -             50    ms     person change to painted page
+DateChangeToPaintedPage                -             50    ms     date change to painted page
+OpenListOf10000Persons                 -             200   ms     list of 10,000 persons opened and painted
+TypeOneLetterInListOf10000Persons      -             50    ms     one letter typed in the list of 10,000 persons, to the painted list
+OpenManagerOf10000Persons              -             200   ms     person screen opened over 10,000 persons
+OpenNamesInManagerOf10000Persons       -             200   ms     names of the person screen dropped down, 10,000 of them
+TypeOneLetterInManager/name_of_10000   -             50    ms     one letter of a name typed in the person screen, 10,000 persons
+TypeOneLetterInManager/place_of_29000  -             10    ms     one letter of a place typed in the person screen, to the painted list
+ListOf10000Persons                     -             -     ms     names of 10,000 persons read
+OnePersonOf10000                       -             50    ms     one person of 10,000 found in the store
+SaveOnePersonOf10000                   -             -     ms     one person of 10,000 saved
+ReadAllPlaces                          -             -     ms     all 29,000 places read
+TypeOneLetterOfAPlace                  -             10    ms     places of one typed letter found among 29,000
+DailyJsonAsAProcess                    -             150   ms     `orvani-daily --json`, whole process
+DailyPdfAsAProcess                     -             500   ms     `orvani-daily --pdf`, the full report, whole process
 """.strip().splitlines()]
 MEMORY_WANTED = 2  # MiB
 
