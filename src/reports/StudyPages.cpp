@@ -139,14 +139,18 @@ void clsDailyPrinter::PrintAspects() {
     };
     TableColumn planets = column(page.lblPlanetHead, &Row::name, 1.1, false);
     planets.strong = true;
-    const Table bySign{{planets, column(page.lblDignityHead, &Row::dignity, 1.1, true),
-                        column(page.lblStandingHead, &Row::standing, 1.05, false),
-                        column(page.lblCombustHead, &Row::combustion, 1.15, true), column(page.lblSeesHead, &Row::sees, 1.4, true),
-                        column(page.lblSeenByHead, &Row::seenBy, 1.4, true), column(page.lblWithHead, &Row::with, 1.4, true)}};
-    double y = PrintTable(bySign, TopMargin + Inches(TableTop)) + Inches(0.25);
-    const Table byDegrees{
+    Table bySign{{planets, column(page.lblDignityHead, &Row::dignity, 1.1, true), column(page.lblStandingHead, &Row::standing, 1.05, false),
+                  column(page.lblCombustHead, &Row::combustion, 1.15, true), column(page.lblSeesHead, &Row::sees, 1.4, true),
+                  column(page.lblSeenByHead, &Row::seenBy, 1.4, true), column(page.lblWithHead, &Row::with, 1.4, true)}};
+    Table byDegrees{
         {planets, column(page.lblByDegreesHead, &Row::byDegrees, 3, true), column(page.lblWesternHead, &Row::western, 4.5, true)}, 250};
-    y = PrintTable(byDegrees, y);
+    // Both share a page: a chart with many aspects is set smaller.
+    constexpr double between = 0.25, room = 7.9;  // inches
+    for (const double points : {9.0, 8.5, 8.0, 7.5}) {
+      bySign.points = byDegrees.points = points;
+      if (HeightOf(bySign) + HeightOf(byDegrees) <= Inches(room - between)) break;
+    }
+    PrintTable(byDegrees, PrintTable(bySign, TopMargin + Inches(TableTop)) + Inches(between));
     printer.NewPage();
     BeginStudyPage(title);
     PrintAspectGrids(page);

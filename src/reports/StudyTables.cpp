@@ -15,7 +15,7 @@ namespace {
 constexpr unsigned Black = 0;
 constexpr double PageWidth = 6.6, TableTop = 1.25, PageBottom = 9.15;        // inches
 constexpr double HeadHeight = 330, Side = 65, CentredSide = 30, Above = 30;  // twips
-constexpr double LargestText = 10, LeastText = 8, WrappedText = 9;           // points
+constexpr double LeastText = 8, WrappedText = 9;                             // points
 constexpr double LineHeight = 23;                                            // twips of a line for each point
 constexpr int ThinPen = 4;
 constexpr double LeastHouseNumber = 6;  // points; a small number keeps off the chart's lines
@@ -53,7 +53,7 @@ clsDailyPrinter::LaidTable clsDailyPrinter::LayTable(const Table &table) {
   for (const TableColumn &column : columns) laid.lefts.push_back(laid.lefts.back() + unit * column.share);
 
   const bool wraps = std::any_of(columns.begin(), columns.end(), [](const TableColumn &column) { return column.wraps; });
-  laid.body.size = std::min((table.rowHeight - Above) / LineHeight, wraps ? WrappedText : LargestText);
+  laid.body.size = std::min({(table.rowHeight - Above) / LineHeight, table.points, wraps ? WrappedText : table.points});
   laid.head = {laid.body.font, laid.body.size, true};
   for (size_t i = 0; i < columns.size(); ++i) {
     laid.head = Common({columns[i].head}, laid.Room(i), LeastText, laid.head);
@@ -111,6 +111,11 @@ double clsDailyPrinter::RoomFor(double height, double y) {
   if (y + height <= TopMargin + Inches(PageBottom) || y <= TopMargin + Inches(TableTop)) return y;
   NextPage();
   return printer.CurrentY();
+}
+
+double clsDailyPrinter::HeightOf(const Table &table) {
+  const LaidTable laid = LayTable(table);
+  return std::accumulate(laid.heights.begin(), laid.heights.end(), HeadHeight);
 }
 
 double clsDailyPrinter::PrintTable(const Table &table, double y) {

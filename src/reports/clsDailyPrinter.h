@@ -116,7 +116,8 @@ class clsDailyPrinter {
   };
   struct Table {
     std::vector<TableColumn> columns;
-    double rowHeight = 270;
+    double rowHeight = 270;                                          // at least
+    double points = 10;                                              // of the text, at most
     bool withTotal = false;                                          // a rule parts the last row from the others
     std::function<unsigned(size_t row, size_t column)> ground = {};  // 0xRRGGBB of a cell
   };
@@ -142,6 +143,7 @@ class clsDailyPrinter {
   double PrintRows(const LaidTable &laid, size_t from, size_t to, double y);
   // y, or the top of a new page where the height does not fit below it.
   double RoomFor(double height, double y);
+  double HeightOf(const Table &table);
   // From y down, as wide as the page; gives the height where it ends. What no page holds is carried over to the next, with the heads.
   double PrintTable(const Table &table, double y);
   // A line of words under a table; gives the height where it ends.

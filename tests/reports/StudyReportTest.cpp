@@ -222,10 +222,33 @@ TEST_F(StudyReportTest, BarsAndLinesAreDrawnToMeasure) {
   }
 }
 
-// Texts twice as wide need more lines than a page has.
+TEST_F(StudyReportTest, AChartWithManyAspectsKeepsToItsPages) {
+  BirthRecord lima;
+  lima.Name = "Lima";
+  lima.Day = 21;
+  lima.Month = 6;
+  lima.Year = 1999;
+  lima.Hour = 12;
+  lima.place = {.City = "Lima",
+                .Country = {},
+                .GMTDIFF = "-5.00",
+                .LatDeg = 12,
+                .LatMT = 10,
+                .LongDeg = 77,
+                .LongMT = 20,
+                .TextNS = "S",
+                .TextEW = "W"};
+  session.SetBirthPerson(lima);
+  session.BuildAnalysis(QDateTime(QDate(2026, 12, 21), QTime(9, 0), Qt::UTC));
+  const QString file = data.Path() + "/lima.pdf";
+  ASSERT_TRUE(Report().SavePdf(file, ReportTopics::FromKeys({"Aspects"}), nullptr, QPageSize(QPageSize::A4)));
+  EXPECT_EQ(WordsOf(file).back().page, 4);
+}
+
+// Texts three times as wide need more lines than a page has.
 class WidePrinter : public RecordingPrinter {
  public:
-  double TextWidth(const QString &text) override { return 2 * RecordingPrinter::TextWidth(text); }
+  double TextWidth(const QString &text) override { return 3 * RecordingPrinter::TextWidth(text); }
 };
 
 TEST_F(StudyReportTest, ALongTableGoesOnWithItsHeadsOnTheNextPage) {
