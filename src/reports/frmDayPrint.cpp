@@ -106,7 +106,7 @@ void frmDayPrint::Build() {
   tvwPrint->setCurrentItem(tvwPrint->topLevelItem(0));
   tvwPrint->setUniformRowHeights(true);
   // Every row shows where the screen has room for them.
-  const int row = fontMetrics().height() + Gap;
+  const int row = fontMetrics().height() + Gap / 2;
   tvwPrint->setStyleSheet(QStringLiteral("QTreeWidget::item { min-height: %1px; }").arg(row));
   tvwPrint->setMinimumHeight(row * 6);
   connect(tvwPrint, &QTreeWidget::itemChanged, this, [this](QTreeWidgetItem *item) { OnItemChanged(item); });
@@ -135,7 +135,7 @@ void frmDayPrint::Build() {
   layout->setSpacing(2 * Gap);
   layout->addWidget(tvwPrint);
   layout->addLayout(buttons);
-  const QSize wanted(std::max(longest, sizeHint().width()), row * rows + 14 * Gap);
+  const QSize wanted(std::max(longest, sizeHint().width()), std::max(row, tvwPrint->sizeHintForRow(0)) * rows + 14 * Gap);
   resize(wanted.boundedTo(screen()->availableSize() * 0.9));
 }
 

@@ -89,11 +89,12 @@ class StudyReportTest : public ReportFixture {
   RecordingPrinter paper;
 };
 
-// How often each word stands in the texts.
+// How often each word stands in the texts, whatever mark follows it in a sentence.
 QHash<QString, int> Counted(const QStringList &texts) {
+  static const QRegularExpression marks(QStringLiteral("[,.;:]+$"));
   QHash<QString, int> counts;
   for (const QString &text : texts)
-    for (const QString &word : text.simplified().split(QLatin1Char(' '), Qt::SkipEmptyParts)) ++counts[word];
+    for (QString word : text.simplified().split(QLatin1Char(' '), Qt::SkipEmptyParts)) ++counts[word.remove(marks)];
   return counts;
 }
 
