@@ -44,7 +44,11 @@ QSet<QString> All(const QString &text, const char *pattern) {
   return found;
 }
 
-std::string Listed(const QSet<QString> &names) { return QStringList(names.begin(), names.end()).join(' ').toStdString(); }
+std::string Listed(const QSet<QString> &names) {
+  QStringList sorted(names.begin(), names.end());
+  sorted.sort();
+  return sorted.join(' ').toStdString();
+}
 
 class InstalledCopy : public testing::Test {
  protected:
@@ -154,13 +158,12 @@ TEST_F(InstalledCopy, HasManPagesThatKnowEveryOption) {
     EXPECT_EQ(Listed(All(page, "(--[a-z-]+)") - options), "") << program << ": options that the program does not have";
   }
   const QString refusal = Call("orvani-daily", {"--pdf", home.filePath("day.pdf"), "--topics", "?"}).err;
-  const QStringList topics = First(refusal, "the topics are (.+)\\.$").split(", ");
+  QString listed = First(refusal, "the topics are (.+)\\.$").remove(QRegularExpression(QStringLiteral(" \\(all of them: \\w+\\)")));
+  const QStringList topics = listed.replace(", and ", ", ").split(", ");
   EXPECT_GE(topics.size(), 12) << refusal.toStdString();
   const QString page = Unpacked("share/man/man1/orvani-daily.1.gz");
   const QString paragraph = page.mid(page.indexOf(".BI \\-\\-topics")).section(".SS", 0, 0);
-  const QSet<QString> told = All(paragraph, "^\\.BR (\\w+) [.,]$");
-  EXPECT_GE(told.size(), 12);
-  EXPECT_EQ(Listed(told - QSet<QString>(topics.begin(), topics.end())), "") << "topics that the report does not have";
+  EXPECT_EQ(Listed(All(paragraph, "^\\.BR (\\w+) [.,]$")), Listed(QSet<QString>(topics.begin(), topics.end())));
 }
 
 // The changelog is read by a machine: what it cannot read is named with its line.
