@@ -46,6 +46,7 @@ PlaceCombo::PlaceCombo(QWidget *parent) : QComboBox(parent) {
   setInsertPolicy(NoInsert);
   setDuplicatesEnabled(true);  // or Enter would choose the first of several places of one name
   setCompleter(nullptr);
+  ChooseOnlyByHand(*this);
   setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
   setMinimumContentsLength(12);
   list = new ListModel(this);
@@ -94,6 +95,12 @@ void PlaceCombo::ListCountry(const QString &name) {
 
 // What tells two places apart stands at the end of a line, so a line must not be cut.
 void PlaceCombo::showPopup() {
+  // It opens at the place that is shown, which was typed more often than chosen here.
+  if (itemText(currentIndex()).compare(currentText(), Qt::CaseInsensitive) != 0) {
+    const QModelIndexList same = list->match(list->index(0), Qt::EditRole, currentText(), 1, Qt::MatchFixedString);
+    const QSignalBlocker quiet(this);
+    if (!currentText().isEmpty() && !same.isEmpty()) setCurrentIndex(same.first().row());
+  }
   view()->setMinimumWidth(RoomFor(*view(), widestLabel));
   QComboBox::showPopup();
 }
@@ -108,6 +115,8 @@ void PlaceCombo::ShowCity(const QString &name) {
   setEditText(name);
   lineEdit()->setCursorPosition(0);
 }
+
+void PlaceCombo::ChooseOnlyByHand(QComboBox &editable) { disconnect(editable.lineEdit(), &QLineEdit::editingFinished, &editable, nullptr); }
 
 void PlaceCombo::CompleteInline(QLineEdit &edit, const QString &typed, const QString &whole) {
   if (!whole.startsWith(typed, Qt::CaseInsensitive) || edit.cursorPosition() != typed.size()) return;

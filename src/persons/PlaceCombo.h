@@ -25,6 +25,10 @@ class PlaceCombo : public QComboBox {
   void ShowCity(const QString &name);  // tells nobody
   void showPopup() override;
 
+  // The toolkit takes a text that stands in the list for a fresh choice each time the field is left, and a fresh choice replaces what
+  // was written beside it. After this only a line that is clicked, or chosen by its key, is a choice.
+  static void ChooseOnlyByHand(QComboBox &editable);
+
   // Completes a typed start to the whole text: the part that was not typed is selected, so that typing on replaces it.
   static void CompleteInline(QLineEdit &edit, const QString &typed, const QString &whole);
 

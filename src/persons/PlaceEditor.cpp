@@ -45,6 +45,7 @@ PlaceEditor::PlaceEditor(const Names &names, const QString &what, QWidget *paren
   country->setInsertPolicy(QComboBox::NoInsert);
   country->setDuplicatesEnabled(true);
   country->setCompleter(nullptr);
+  PlaceCombo::ChooseOnlyByHand(*country);
   country->setMinimumContentsLength(12);
   country->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   country->setAccessibleName(tr("Country of %1").arg(what));

@@ -185,6 +185,7 @@ QWidget *frmEditLongLat::MakeCityTab() {
   cbocCountry->setAccessibleName(tr("Country of the city"));
   cbocCountry->setEditable(true);
   cbocCountry->setInsertPolicy(QComboBox::NoInsert);
+  PlaceCombo::ChooseOnlyByHand(*cbocCountry);
   txtCitGMT = new QLineEdit(NoDifference);
   txtCitGMT->setObjectName(QStringLiteral("txtCitGMT"));
   txtCitGMT->setAccessibleName(tr("Time difference from GMT as +hours.minutes"));
@@ -263,6 +264,7 @@ QWidget *frmEditLongLat::MakeCountryTab() {
   cboCNTRY->setAccessibleName(tr("Country"));
   cboCNTRY->setEditable(true);
   cboCNTRY->setInsertPolicy(QComboBox::NoInsert);
+  PlaceCombo::ChooseOnlyByHand(*cboCNTRY);
   txtGMTDiff = new QLineEdit(NoDifference);
   txtGMTDiff->setObjectName(QStringLiteral("txtGMTDiff"));
   txtGMTDiff->setAccessibleName(tr("Time difference from GMT as +hours.minutes"));
@@ -288,6 +290,11 @@ QWidget *frmEditLongLat::MakeCountryTab() {
   layout->addLayout(buttons);
 
   connect(cboCNTRY, &QComboBox::editTextChanged, fault, &QLabel::hide);
+  // While a country is being written, its name is only a name.
+  connect(cboCNTRY->lineEdit(), &QLineEdit::returnPressed, this, [this] {
+    const int listed = cboCNTRY->findText(cboCNTRY->currentText().trimmed(), Qt::MatchFixedString);
+    if (listed >= 0 && !cmdCSave->isEnabled()) Guard([&] { ShowCountry(cboCNTRY->itemText(listed)); });
+  });
   connect(cboCNTRY, &QComboBox::activated, this, [this](int index) { Guard([&] { ShowCountry(cboCNTRY->itemText(index)); }); });
   connect(add, &QPushButton::clicked, this, &frmEditLongLat::AddCountry);
   connect(modify, &QPushButton::clicked, this, &frmEditLongLat::ChangeCountry);

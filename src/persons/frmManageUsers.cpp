@@ -24,6 +24,7 @@
 #include "content/Theme.h"
 #include "persons/PersonFields.h"
 #include "persons/PersonsFile.h"
+#include "persons/PlaceCombo.h"
 #include "persons/PlaceEditor.h"
 #include "persons/UndoBar.h"
 #include "platform/Errors.h"
@@ -153,6 +154,10 @@ QWidget *frmManageUsers::MakeHead() {
   lblNameNote = MakeFault("fault_cmbPerson");
   card->layout()->addWidget(lblNameNote);
 
+  PlaceCombo::ChooseOnlyByHand(*cmbPerson);
+  connect(cmbPerson->lineEdit(), &QLineEdit::returnPressed, this, [this] {
+    if (!PersonStore::IsSameName(cmbPerson->currentText(), chosen)) ChoosePerson(cmbPerson->currentText());
+  });
   connect(cmbPerson, &QComboBox::activated, this, [this](int index) { Guard([&] { ChooseRow(index); }); });
   connect(add, &QPushButton::clicked, this, &frmManageUsers::AddUser);
   connect(remove, &QPushButton::clicked, this, [this] { Guard([this] { DeleteUser(); }); });

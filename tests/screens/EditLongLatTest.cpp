@@ -158,6 +158,7 @@ TEST_F(EditLongLat, CountriesAreAddedChangedAndDeleted) {
   // One that is in the list already is changed, and that can be taken back; a change to another's name is not let pass.
   Click("cmdCAdd");
   Set("cboCNTRY", "INDIA");
+  emit Find<QComboBox>("cboCNTRY")->lineEdit()->editingFinished();
   Set("txtGMTDiff", "1.00");
   Click("cmdCSave");
   EXPECT_EQ(difference("India"), "+01.00");

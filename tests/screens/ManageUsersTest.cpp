@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 // The screen that adds, edits and deletes persons, driven as a user drives it.
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -196,6 +197,26 @@ TEST_F(ManageUsers, ALatitudeBeyondThePoleIsDoubtedAndSaved) {
   EXPECT_EQ(Fault("txtLati"), "");
 }
 
+TEST_F(ManageUsers, PassingThroughAFieldChangesNothing) {
+  db->Execute("UPDATE Person SET GMTDIFF = '+06.30', LatMT = 11");
+  FillNew("Zoya");
+  Click("flpSave");
+  screen->ChoosePerson("Anvik Telvar");
+  screen->ChoosePerson("Zoya");
+  screen->ChoosePerson("Anvik Telvar");
+  Type("txtPerBirthTime", "11.11");
+  for (const char *field : {"cmbPerson", "cmbBirthCountry", "cmbBirthCity", "cmbResCountry", "cmbResCity"}) {
+    Edit(field)->setFocus();
+    emit Edit(field)->editingFinished();  // what leaving the field does
+    EXPECT_EQ(Text("txtGMT"), "+06.30") << field;
+    EXPECT_EQ(Text("txtLati"), "027:11") << field;
+    EXPECT_EQ(Text("txtPerBirthTime"), "11.11") << field;
+  }
+  Choose("cmbPerson", "zoya");
+  QTest::keyClick(Edit("cmbPerson"), Qt::Key_Return);
+  EXPECT_EQ(Text("txtPerBirthTime"), "21.05") << "the Enter key chooses a name that is typed whole";
+}
+
 TEST_F(ManageUsers, EveryFieldSaysWhatItIsFor) {
   for (const QWidget *field : screen->findChildren<QWidget *>()) {
     const bool isField = qobject_cast<const QComboBox *>(field) || qobject_cast<const QAbstractButton *>(field) ||
@@ -229,6 +250,12 @@ TEST_F(ManageUsers, TheListOfPlacesTellsThemApartAndGivesTheBareName) {
   auto *city = Find<QComboBox>("cmbBirthCity");
   const auto same = city->model()->match(city->model()->index(0, 0), Qt::EditRole, "Springfield", -1, Qt::MatchFixedString);
   ASSERT_GT(same.size(), 5);
+  Type("cmbBirthCity", "springfield");
+  const QString latitude = Text("txtLati");
+  city->showPopup();
+  EXPECT_EQ(city->view()->currentIndex(), same[0]) << "the list opens at what was typed";
+  city->hidePopup();
+  EXPECT_EQ(Text("txtLati"), latitude);
   EXPECT_EQ(same[0].data().toString(), "Springfield, Missouri");
   for (const QModelIndex &row : same) {
     city->setCurrentIndex(row.row());
