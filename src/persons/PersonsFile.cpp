@@ -176,7 +176,7 @@ QString CellText(const PersonRecord &record, const Field &field) {
 
 QString PlaceFault(const PersonPlace &place) {
   const auto isAngle = [](int degrees, int minutes, int most) {
-    return degrees >= 0 && minutes >= 0 && minutes < 60 && degrees * 60 + minutes <= most * 60;
+    return degrees >= 0 && degrees <= most && minutes >= 0 && minutes < 60 && (degrees < most || minutes == 0);
   };
   if (!isAngle(place.LatDeg, place.LatMT, 180)) return tr("there is no latitude %1:%2.").arg(place.LatDeg).arg(place.LatMT);
   if (!isAngle(place.LongDeg, place.LongMT, 180)) return tr("there is no longitude %1:%2.").arg(place.LongDeg).arg(place.LongMT);
@@ -359,10 +359,9 @@ void PersonsFile::Contents::Take(PersonRecord &&record, const QString &fault, in
     faults << tr("Line %1: %2").arg(QString::number(line), fault);
     return;
   }
-  const auto isBeyond = [](const PersonPlace &place) { return place.LatDeg * 60 + place.LatMT > NorthPole * 60; };
+  const auto isBeyond = [](const PersonPlace &place) { return place.LatDeg > NorthPole || (place.LatDeg == NorthPole && place.LatMT > 0); };
   if (isBeyond(record.birth) || (record.residence && isBeyond(*record.residence)))
-    doubts
-        << tr("Line %1 is taken in, though no place on the earth lies beyond latitude 090:00: %2.").arg(QString::number(line), record.Name);
+    doubts << tr("Line %1 came in; its latitude is beyond 090:00.").arg(line);
   persons.push_back(std::move(record));
 }
 
