@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "persons/PersonStore.h"
 
+#include <QSet>
 #include <QSqlQuery>
 #include <algorithm>
 #include <utility>
@@ -239,14 +240,14 @@ std::vector<PersonRecord> PersonStore::AllOf(const QString &name) const {
   Recordset person = db->OpenRecordset(QStringLiteral("SELECT * FROM main.Person WHERE Name = ?"), {name});
   for (; !person.AtEnd(); person.MoveNext()) {
     all.push_back(Read(person));
-    if (!place.IsEmpty()) all.back().residence = ReadPlace(place);
+    if (!place.IsEmpty()) ReadResidence(all.back(), place);
   }
   return all;
 }
 
 std::optional<PersonStore::Outcome> PersonStore::SaveOver(const PersonRecord &record, const std::optional<PersonRecord> &seen) {
   Transaction transaction(*db);
-  const std::vector<PersonRecord> stored = AllOf(record.Name.trimmed());
+  const std::vector<PersonRecord> stored = AllOf(seen ? seen->Name : record.Name.trimmed());
   const bool isAsSeen = seen ? std::find(stored.begin(), stored.end(), *seen) != stored.end() : stored.empty();
   if (!isAsSeen) return std::nullopt;
   Seen first;
@@ -287,13 +288,15 @@ PersonStore::Removed PersonStore::Snapshot() const {
 }
 
 void PersonStore::GoBackTo(const Removed &snapshot, const QStringList &names) {
-  const QString name = QStringLiteral("Name");
+  QSet<QString> keys;
+  for (const QString &one : names) keys << KeyOf(one);
+  const auto isNamed = [&](const QVariant &name) { return keys.contains(KeyOf(name)); };
   Transaction transaction(*db);
   for (const QString &one : names) {
     db->Execute(QStringLiteral("DELETE FROM main.Person WHERE Name = ?"), {one});
     db->Execute(QStringLiteral("DELETE FROM %1 WHERE Name = ?").arg(Residences()), {one});
   }
-  snapshot.persons.Of(name, names).PutBack(*db);
-  snapshot.residences.Of(name, names).PutBack(*db);
+  snapshot.persons.Of(QStringLiteral("Name"), isNamed).PutBack(*db);
+  snapshot.residences.Of(QStringLiteral("Name"), isNamed).PutBack(*db);
   transaction.Commit();
 }

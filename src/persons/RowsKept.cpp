@@ -32,13 +32,12 @@ RowsKept RowsKept::Take(Database &db, const QString &table, const QString &condi
   return kept;
 }
 
-RowsKept RowsKept::Of(const QString &column, const QStringList &values) const {
+RowsKept RowsKept::Of(const QString &column, const std::function<bool(const QVariant &)> &isWanted) const {
   RowsKept some;
   some.table = table;
   some.columns = columns;
   const qsizetype at = columns.indexOf(column);
-  std::copy_if(rows.begin(), rows.end(), std::back_inserter(some.rows),
-               [&](const QVariantList &row) { return values.contains(row.value(at).toString(), Qt::CaseInsensitive); });
+  std::copy_if(rows.begin(), rows.end(), std::back_inserter(some.rows), [&](const QVariantList &row) { return isWanted(row.value(at)); });
   return some;
 }
 

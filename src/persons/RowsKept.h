@@ -4,6 +4,7 @@
 
 #include <QStringList>
 #include <QVariant>
+#include <functional>
 #include <vector>
 
 class Database;
@@ -20,8 +21,8 @@ class RowsKept {
   // In their old places where those are still free, and behind the others where they are not. Throws StoreError.
   void PutBack(Database &db) const;
 
-  // Those whose text in the column is one of `values`, whatever the case of its letters.
-  RowsKept Of(const QString &column, const QStringList &values) const;
+  // Those whose value in the column is wanted.
+  RowsKept Of(const QString &column, const std::function<bool(const QVariant &)> &isWanted) const;
 
   // In their old places, from which the rows that stand there now are taken out. Throws StoreError.
   void PutInPlace(Database &db) const;

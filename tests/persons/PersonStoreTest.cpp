@@ -90,6 +90,23 @@ TEST_F(PersonFiles, ADeletedPersonComesBackAsBefore) {
   EXPECT_TRUE(store.Delete("nobody").IsEmpty());
 }
 
+TEST_F(PersonFiles, AStrangeRowCanBeSavedOverAndAnUndoKeepsToItsNames) {
+  const auto persons = OpenPersons();
+  PersonStore store(persons, At("Daily.dat"));
+  for (const char *name : {"Mira", "\u00c9MILE", "\u00e9mile"}) store.Save(Numbered(name, 5));
+  Database::OpenDatabase(At("Daily.dat"))->Execute("UPDATE PERSON SET City = NULL, LatDeg = 1.5");
+  for (const char *blanks : {"Mira", " Mira "}) {
+    persons->Execute("UPDATE Person SET Name = ? WHERE trim(Name) = 'Mira'", {blanks});
+    EXPECT_TRUE(store.SaveOver(Numbered("Mira", 6), store.Find(blanks))) << "nobody has changed '" << blanks << "'";
+  }
+
+  const auto before = store.Snapshot();
+  const auto all = store.All();
+  store.SaveAll({Numbered("\u00e9mile", 8)});
+  store.GoBackTo(before, {"\u00e9mile"});
+  EXPECT_EQ(store.All(), all) << "the other of like name is put back neither once more nor less";
+}
+
 TEST_F(PersonFiles, ASaveThatOneFileRefusesChangesNeither) {
   const auto persons = OpenPersons();
   PersonStore store(persons, At("Daily.dat"));
