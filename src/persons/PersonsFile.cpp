@@ -140,8 +140,8 @@ QString Assemble(const Cells &cells, PersonRecord &record) {
     return counts;
   };
   const auto take = [&](const Field &field) {
-    const QString text = Keepable(cells.value(QLatin1String(field.name).toString().toLower()));
-    if (takeOdd(QLatin1String(field.name), text)) {
+    const QString cell = cells.value(QLatin1String(field.name).toString().toLower()), text = Keepable(cell);
+    if (takeOdd(QLatin1String(field.name), cell)) {
       const QVariant stored = record.odd.value(QLatin1String(field.name));
       field.set(record, field.isNumber ? QString::number(stored.toInt()) : stored.toString());
       return QString();
