@@ -98,16 +98,11 @@ frmSettings::frmSettings(UserSettings &userSettings, clsIni configuration, QWidg
   all->setSpacing(2 * Grid::Gap);
   all->addWidget(MakeTrail());
   all->addWidget(frames, 1);
-  all->addWidget(MakeButtons());
   MakeAyanamsha();
   MakeKundaliStyle();
   MakeRahuKetu();
   MakeYourDetails();
-  QWidget *before = txtAddress;  // the buttons come after what they lead on from
-  for (QPushButton *button : {flpCancel, flpPrevFrame, flpNextFrame, flpFinish}) {
-    setTabOrder(before, button);
-    before = button;
-  }
+  all->addWidget(MakeButtons());  // last, as Tab goes through them after what they lead on from
   setMinimumSize(640, 440);
   resize(780, 560);
 

@@ -20,7 +20,8 @@ void Walk(Findings (*walk)(QWidget &), bool dark, QSize size) {
   ReachScreens(dark, size).ForEach([&](const QString &name, QWidget &screen) {
     ++screens;
     const Findings found = walk(screen);
-    EXPECT_GT(found.seen, 0) << qPrintable(name);
+    // There is nothing to press on the picture of the start.
+    EXPECT_TRUE(found.seen > 0 || qobject_cast<frmSplash *>(&screen)) << qPrintable(name);
     EXPECT_TRUE(found.faults.isEmpty()) << qPrintable(name) << ":\n  " << qPrintable(found.faults.join(QStringLiteral("\n  ")));
   });
   EXPECT_GE(screens, 50);
