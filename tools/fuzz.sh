@@ -38,15 +38,16 @@ for target in "${targets[@]}"; do
   mkdir -p "$build_dir/corpus/$target"
   log=$build_dir/logs/$target
   result=none
+  began=$SECONDS
   echo "Trying $target for $seconds s"
   # Leaks are looked for where the whole suite runs under the sanitizers: here each look would take longer than the input.
-  nice -n 19 "$build_dir/bin/fuzz_$target" -max_total_time="$seconds" -max_len="${longest[$target]}" -timeout=30 -len_control=0 \
+  nice -n 19 "$build_dir/bin/fuzz_$target" -max_total_time="$seconds" -max_len="${longest[$target]}" -timeout=120 -len_control=0 \
     -use_value_profile=1 -detect_leaks=0 -rss_limit_mb=4096 -close_fd_mask=1 -print_final_stats=1 -artifact_prefix="$build_dir/findings/$target-" "${words[@]}" \
     "$build_dir/corpus/$target" "${inputs[@]}" >"$log" 2>&1 || { result=$(sed -n 's/.*Test unit written to //p' "$log" | tail -1); found=yes; }
   edges=$(sed -nE 's/.*INFO: Loaded .*\(([0-9]+) inline.*/\1/p' "$log" | head -1)
-  reached=$(grep -oE 'cov: [0-9]+' "$log" | tail -1 | cut -d' ' -f2)
+  reached=$(grep -aoE 'cov: [0-9]+' "$log" | tail -1 | cut -d' ' -f2)
   runs=$(sed -n 's/^stat::number_of_executed_units: *//p' "$log")
-  echo "| \`$target\` | $(find "${inputs[@]}" -type f | wc -l) | $seconds s | ${runs:-0} | ${reached:-0} of ${edges:-0} | ${result##*/} |" \
+  echo "| \`$target\` | $(find "${inputs[@]}" -type f | wc -l) | $((SECONDS - began)) s | ${runs:-0} | ${reached:-0} of ${edges:-0} | ${result##*/} |" \
     >"$build_dir/rows/$target"
   if [ "$result" != none ]; then tail -40 "$log" >&2; fi
 done
