@@ -3,6 +3,7 @@
 #include "app/MessageBoxes.h"
 
 #include <QApplication>
+#include <QGridLayout>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
@@ -16,6 +17,7 @@
 namespace {
 
 constexpr size_t MostInOneBox = 8;
+constexpr int LeastWidth = 420;  // pixels
 constexpr QSize PictureSize(40, 40);
 
 struct Look {
@@ -37,7 +39,6 @@ bool Same(const Notice &a, const Notice &b) { return a.kind == b.kind && a.title
 
 void Dress(QMessageBox &box, const QString &title, const QString &text, const Look &look) {
   box.setWindowTitle(title.isEmpty() ? QApplication::applicationDisplayName() : title);
-  box.setStyleSheet(QStringLiteral("QLabel#qt_msgbox_label { min-width: 320px; }"));  // a path breaks into a tower otherwise
   box.setTextFormat(Qt::PlainText);  // texts hold paths and names, which may look like markup
   box.setText(text);
   const QPixmap picture = Skin::Pixmap(QLatin1String(look.picture), PictureSize, box.devicePixelRatioF());
@@ -45,6 +46,10 @@ void Dress(QMessageBox &box, const QString &title, const QString &text, const Lo
     box.setIcon(look.fallback);
   else
     box.setIconPixmap(picture);
+  // Last, since a picture lays the box out anew. Wide enough for a path; a least width of the label itself would keep the box
+  // from seeing that its text needs several lines.
+  if (auto *grid = qobject_cast<QGridLayout *>(box.layout()))
+    grid->addItem(new QSpacerItem(LeastWidth, 0), grid->rowCount(), 0, 1, grid->columnCount());
   if (auto *shown = box.findChild<QLabel *>(QStringLiteral("qt_msgboxex_icon_label")))
     shown->setAccessibleName(MessageBoxes::tr(look.word));
 }

@@ -197,7 +197,7 @@ frmMain::~frmMain() {
   if (!session) return;
   for (const std::shared_ptr<Database> &store : {session->OpenStores().personDb, session->OpenStores().dailyDb}) {
     try {
-      if (store && store->OpenMode() == Database::Mode::ReadWrite) StoreKeeper::KeepCopy(*store);
+      if (store && store->OpenMode() == Database::Mode::ReadWrite) StoreKeeper::KeepCopy(store->Path());
     } catch (const Error &) {
       // The copy of the start goes on serving, and the next start tells what stands in the way.
     }

@@ -51,7 +51,8 @@ void WriteWholeFile(const QString &path, const QByteArray &content) {
                      StoreError::Kind::NotAFile);
   }
   QSaveFile file(path);
-  if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.commit()) {
+  // Flushed by itself: what a full disk refuses at the closing is not noticed by commit, which would rename an empty file into place.
+  if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.flush() || !file.commit()) {
     ThrowNotWritten(path, file.errorString());
   }
 }
@@ -73,4 +74,13 @@ QString SetAside(const QString &path) {
                      StoreError::Kind::ReadOnly);
   }
   return name;
+}
+
+void CheckRoom(const QString &path, qint64 bytes) {
+  QDir().mkpath(QFileInfo(path).absolutePath());
+  QSaveFile probe(path);
+  if (!probe.open(QIODevice::WriteOnly) || probe.write(QByteArray(bytes, ' ')) != bytes || !probe.flush()) {
+    ThrowNotWritten(path, probe.errorString());
+  }
+  probe.cancelWriting();
 }

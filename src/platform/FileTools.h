@@ -19,5 +19,9 @@ void WriteWholeFile(const QString &path, const QByteArray &content);
 /// @throws StoreError when it cannot be moved
 QString SetAside(const QString &path);
 
+/// Whether a file of that size could be written in the place of `path`, which stays as it is.
+/// @throws StoreError that names the file
+void CheckRoom(const QString &path, qint64 bytes);
+
 /// Whether anything lies under the name, a link into nothing too.
 bool IsTaken(const QString &path);

@@ -10,6 +10,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <utility>
@@ -22,24 +23,41 @@ using Kind = StoreError::Kind;
 // Files that the store engine lays beside a store. Left there, they would be played into the copy that is put back.
 constexpr std::array kCompanions{"-journal", "-wal", "-shm"};
 
-// Keeps other programs from writing into the store for as long as it lives.
-class ReadHold {
+// The bytes of a store, and nobody writes into it for as long as this lives. The file stays open to the end: the system gives up all
+// locks of a program on a file as soon as the program closes that file anywhere.
+class HeldFile {
  public:
-  explicit ReadHold(Database &store) : store_(store) {
+  explicit HeldFile(Database &store) : file_(store.Path()), store_(store) {
+    if (!file_.open(QIODevice::ReadOnly)) {
+      ReadWholeFile(store.Path());  // tells the reason
+    }
     store_.Execute(QStringLiteral("BEGIN"));
-    store_.OpenRecordset(QStringLiteral("SELECT count(*) FROM sqlite_master"));
+    try {
+      store_.OpenRecordset(QStringLiteral("SELECT count(*) FROM sqlite_master"));
+    } catch (const StoreError &) {
+      LetGo();
+      throw;
+    }
   }
-  ~ReadHold() {
+  ~HeldFile() { LetGo(); }
+  HeldFile(const HeldFile &) = delete;
+  HeldFile &operator=(const HeldFile &) = delete;
+
+  QByteArray Content() {
+    file_.seek(0);
+    return file_.readAll();
+  }
+
+ private:
+  void LetGo() {
     try {
       store_.Execute(QStringLiteral("ROLLBACK"));
     } catch (const StoreError &) {
       // Nothing was written, so there is nothing to undo.
     }
   }
-  ReadHold(const ReadHold &) = delete;
-  ReadHold &operator=(const ReadHold &) = delete;
 
- private:
+  QFile file_;
   Database &store_;
 };
 
@@ -87,27 +105,16 @@ class BesideCopy {
     return false;
   }
 
+  bool HasSameTables() const { return IsSame(QStringLiteral("sqlite_master")); }
+
   // Whether every row of every table and every index say the same. A save that was cut off leaves bytes behind in pages that hold nothing.
-  bool IsSameContent() const {
+  bool HasSameRows() const {
     const Recordset check = store_.OpenRecordset(QStringLiteral("PRAGMA main.integrity_check(1)"));
     if (check.IsEmpty() || check.Field(QStringLiteral("integrity_check")).toString() != QLatin1String("ok")) {
       return false;
     }
-    QStringList tables = Tables(store_, QStringLiteral("kept"));
-    if (tables != Tables(store_, QStringLiteral("main"))) {
-      return false;
-    }
-    tables << QStringLiteral("sqlite_master");
-    for (const QString &table : std::as_const(tables)) {
-      const QString here = RowsOf(QStringLiteral("main"), table);
-      const QString there = RowsOf(QStringLiteral("kept"), table);
-      for (const auto &[one, other] : {std::pair(here, there), std::pair(there, here)}) {
-        if (!store_.OpenRecordset(QStringLiteral("SELECT 1 AS Answer FROM (%1 EXCEPT %2) LIMIT 1").arg(one, other)).IsEmpty()) {
-          return false;
-        }
-      }
-    }
-    return true;
+    const QStringList tables = Tables(store_, QStringLiteral("kept"));
+    return std::all_of(tables.begin(), tables.end(), [this](const QString &table) { return IsSame(table); });
   }
 
  private:
@@ -119,6 +126,13 @@ class BesideCopy {
       values << QStringLiteral("quote(%1)").arg(Quoted(column.Field(QStringLiteral("name")).toString()));
     }
     return QStringLiteral("SELECT %1 FROM %2.%3").arg(values.join(u','), schema, Quoted(table));
+  }
+
+  bool IsSame(const QString &table) const {
+    const QString here = RowsOf(QStringLiteral("main"), table);
+    const QString there = RowsOf(QStringLiteral("kept"), table);
+    const QString differs = QStringLiteral("SELECT 1 AS Answer FROM (%1 EXCEPT %2) LIMIT 1");
+    return store_.OpenRecordset(differs.arg(here, there)).IsEmpty() && store_.OpenRecordset(differs.arg(there, here)).IsEmpty();
   }
 
   Database &store_;
@@ -176,12 +190,11 @@ std::shared_ptr<Database> StoreKeeper::Open(const QString &path, Database::Mode 
 // a failing disk, a tool that writes bytes.
 void StoreKeeper::CheckContent(Database &store, Doubt doubt) {
   const QString kept = KeptPath(store.Path());
+  const QByteArray copy = QFileInfo(kept).isFile() ? ReadWholeFile(kept) : QByteArray();
   QByteArray content;
-  QByteArray copy;
   {
-    const ReadHold hold(store);
-    content = ReadWholeFile(store.Path());
-    copy = QFileInfo(kept).isFile() ? ReadWholeFile(kept) : QByteArray();
+    HeldFile file(store);
+    content = file.Content();
     if (content == copy) {
       return;
     }
@@ -192,8 +205,13 @@ void StoreKeeper::CheckContent(Database &store, Doubt doubt) {
     return;
   }
   bool isSame = false;
+  auto state = RestorableError::State::Unusable;
   try {
-    isSame = BesideCopy(store).IsSameContent();
+    const BesideCopy both(store);
+    if (both.HasSameTables()) {
+      state = RestorableError::State::Doubtful;
+      isSame = both.HasSameRows();
+    }
   } catch (const StoreError &) {
     // What cannot be compared is not the same.
   }
@@ -201,7 +219,7 @@ void StoreKeeper::CheckContent(Database &store, Doubt doubt) {
     throw RestorableError(tr("The data file \"%1\" was changed by something other than this program, and what it holds may be wrong. "
                              "Please check your persons and places, or put a sound copy of the file in its place.")
                               .arg(QDir::toNativeSeparators(store.Path())),
-                          Kind::Damaged, RestorableError::State::Doubtful);
+                          Kind::Damaged, state);
   }
 }
 
@@ -219,19 +237,18 @@ std::shared_ptr<Database> StoreKeeper::OpenForReading(const QString &path, Doubt
   return Open(path, Database::Mode::ReadOnly, doubt);
 }
 
-void StoreKeeper::KeepCopy(Database &store) {
-  CheckContent(store, Doubt::Refuse);
-  CopySound(store);
+// On a connection of its own: one that is open for long answers from what it once read, whatever has become of the file.
+void StoreKeeper::KeepCopy(const QString &path) {
+  const auto store = Database::OpenDatabase(path, Database::Mode::ReadOnly, Database::Check::HeadOnly);
+  CheckContent(*store, Doubt::Refuse);
+  CopySound(*store);
 }
 
 void StoreKeeper::CopySound(Database &store) {
   const QString kept = KeptPath(store.Path());
   if (QFileInfo(kept).isFile()) {
-    {
-      const ReadHold hold(store);
-      if (ReadWholeFile(kept) == ReadWholeFile(store.Path())) {
-        return;
-      }
+    if (ReadWholeFile(kept) == HeldFile(store).Content()) {
+      return;
     }
     try {
       if (BesideCopy(store).CopyHoldsWhatTheStoreLost()) {
@@ -244,12 +261,7 @@ void StoreKeeper::CopySound(Database &store) {
       SetAside(kept);  // damaged as it is, it may hold what is nowhere else
     }
   }
-  QByteArray content;
-  {
-    const ReadHold hold(store);
-    content = ReadWholeFile(store.Path());
-  }
-  WriteWholeFile(kept, content);
+  WriteWholeFile(kept, HeldFile(store).Content());
 }
 
 QString StoreKeeper::RestoreCopy(const QString &path) {

@@ -41,7 +41,7 @@ class StoreKeeper {
   /// Copies the store when its content differs from the kept copy. A copy that holds rows of a table which has none in the store any more
   /// is left as it is: an emptied store is no reason to give up the last full copy.
   /// @throws StoreError when the store is damaged or doubtful, when it cannot be read, or the copy not written
-  static void KeepCopy(Database &store);
+  static void KeepCopy(const QString &path);
 
   /// Puts the kept copy back. What lay in its place is moved aside to a name that ends in ".damaged", never deleted.
   /// Returns where that lies now, or an empty text when there was nothing.

@@ -3,6 +3,7 @@
 #include "platform/UserSettings.h"
 
 #include "platform/Errors.h"
+#include "platform/FileTools.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -13,6 +14,9 @@
 #include <utility>
 
 namespace {
+
+constexpr qint64 kRoomForOneValue = 4096;
+constexpr qint64 kMostBytesOfALetter = 8;  // as the file writes it, with its escapes
 
 bool IsTrue(const QString &text) {
   const QString plain = text.trimmed();
@@ -148,10 +152,12 @@ std::optional<QString> FileUserSettings::Stored(const QString &section, const QS
 }
 
 void FileUserSettings::SetValue(const QString &section, const QString &key, const QString &value) {
+  values_.insert((section + u'/' + key).toLower(), value);  // what cannot be kept holds for this run all the same
+  // The library would leave an empty file on a full disk.
+  CheckRoom(Path(), QFileInfo(Path()).size() + kRoomForOneValue + value.size() * kMostBytesOfALetter);
   file_->sync();  // another program's spelling of the key is kept, and so are its values
   file_->setValue(FullKey(section, key), value);
   file_->sync();
-  values_.insert((section + u'/' + key).toLower(), value);
   if (file_->status() == QSettings::AccessError) {
     throw StoreError(tr("The settings file \"%1\" cannot be written. Please allow writing to the file and its folder, and check that the "
                         "disk is not full.")

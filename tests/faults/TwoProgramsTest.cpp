@@ -138,7 +138,7 @@ TEST_F(TwoPrograms, UndoLeavesTheOtherWindowsWorkAlone) {
   manager.show();
   const QString file = data.Path() + "/list.json";
   manager.ExportTo(file);
-  PersonStore(db, Daily()).Delete("Zoya");
+  PersonStore(Database::OpenDatabase(Recos()), Daily()).Delete("Zoya");
   manager.ImportFrom(file);
   EXPECT_EQ(Stored("Zoya").Name, "Zoya");
   SaveElsewhere(Numbered("Nila", 12));

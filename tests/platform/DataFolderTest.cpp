@@ -217,7 +217,7 @@ TEST_F(DataFolderTest, AStoreThatIsDamagedWhileItIsOpenIsNotCopiedAtTheEnd) {
     file.write(QByteArray(sound).replace("Mira", "Mara").first(size));
     file.resize(size);
     file.close();
-    EXPECT_EQ(Refusal([&] { StoreKeeper::KeepCopy(*store); }), StoreError::Kind::Damaged);
+    EXPECT_EQ(Refusal([&] { StoreKeeper::KeepCopy(path); }), StoreError::Kind::Damaged);
     EXPECT_EQ(ReadWholeFile(StoreKeeper::KeptPath(path)), sound);
   }
 }
