@@ -287,14 +287,23 @@ PersonStore::Removed PersonStore::Snapshot() const {
           RowsKept::Copy(*db, Residences(), QStringLiteral("1"), {})};
 }
 
-void PersonStore::GoBackTo(const Removed &snapshot, const QStringList &names) {
+QVariantList PersonStore::NamesOf(const std::vector<PersonRecord> &records) {
+  QVariantList names;
+  for (const PersonRecord &record : records) {
+    names << StoredName(record);
+    if (const auto other = record.odd.find(OfResidence + QStringLiteral("Name")); other != record.odd.end()) names << *other;
+  }
+  return names;
+}
+
+void PersonStore::GoBackTo(const Removed &snapshot, const QVariantList &names) {
   QSet<QString> keys;
-  for (const QString &one : names) keys << KeyOf(one);
+  for (const QVariant &name : names) keys << KeyOf(name);
   const auto isNamed = [&](const QVariant &name) { return keys.contains(KeyOf(name)); };
   Transaction transaction(*db);
-  for (const QString &one : names) {
-    db->Execute(QStringLiteral("DELETE FROM main.Person WHERE Name = ?"), {one});
-    db->Execute(QStringLiteral("DELETE FROM %1 WHERE Name = ?").arg(Residences()), {one});
+  for (const QVariant &name : names) {
+    db->Execute(QStringLiteral("DELETE FROM main.Person WHERE Name IS ?"), {name});
+    db->Execute(QStringLiteral("DELETE FROM %1 WHERE Name IS ?").arg(Residences()), {name});
   }
   snapshot.persons.Of(QStringLiteral("Name"), isNamed).PutBack(*db);
   snapshot.residences.Of(QStringLiteral("Name"), isNamed).PutBack(*db);

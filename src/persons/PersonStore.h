@@ -64,7 +64,9 @@ class PersonStore {
   // Everything as it lies now, to go back to after a list of persons came in.
   Removed Snapshot() const;
   // Only these names go back: what another program has saved of others since stays.
-  void GoBackTo(const Removed &snapshot, const QStringList &names);
+  void GoBackTo(const Removed &snapshot, const QVariantList &names);
+  // The names under which records are written, those of their residences too.
+  static QVariantList NamesOf(const std::vector<PersonRecord> &records);
 
   // Differs from an earlier answer when another program has changed one of the files since.
   std::pair<qlonglong, qlonglong> DataVersion() const { return {db->DataVersion(), db->DataVersion(schema)}; }

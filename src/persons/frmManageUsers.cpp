@@ -685,8 +685,7 @@ void frmManageUsers::ImportFrom(const QString &path) {
     }
     QString sentence = tr("New persons: %1. Changed persons: %2.").arg(tally.added).arg(tally.changed);
     if (!contents.faults.isEmpty()) sentence += tr(" Rows left out: %1.").arg(contents.faults.size());
-    QStringList imported;
-    for (const PersonRecord &person : contents.persons) imported << person.Name.trimmed();
+    const QVariantList imported = PersonStore::NamesOf(contents.persons);
     bar->Offer(sentence, tr("&Undo"), [this, before, form, imported] {
       store.GoBackTo(before, imported);
       FillPersons();

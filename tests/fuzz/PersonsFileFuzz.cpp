@@ -41,9 +41,7 @@ void CheckSaved(const std::vector<PersonRecord> &persons) {
     Require(isThere, "each person of the file is in the store");
   }
   Require(store.SaveAll(persons).added == 0, "the same file again adds nobody");
-  QStringList names;
-  for (const PersonRecord &person : persons) names << person.Name.trimmed();
-  store.GoBackTo(before, names);
+  store.GoBackTo(before, PersonStore::NamesOf(persons));
   Require(store.All().size() == former, "the import is undone");
 }
 
