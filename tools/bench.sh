@@ -30,4 +30,4 @@ echo "Measuring memory"
 QT_QPA_PLATFORM=offscreen measure offscreen "$bench" --benchmark_filter=WindowMemory
 QT_QPA_PLATFORM=xcb measure xcb xvfb-run -a -s "-screen 0 1600x1200x24" "$bench" --benchmark_filter=WindowMemory
 /usr/bin/python3 tools/benchtable.py "$results" | put_report docs/bench.md bench
-sed -n '/<!-- bench -->/,/^$/p' docs/bench.md | grep -F 'missed' || echo "Everything wanted is met; the table is in docs/bench.md"
+grep -F 'missed by' docs/bench.md || echo "Everything wanted is met; the table is in docs/bench.md"

@@ -135,7 +135,7 @@ void frmDayPrint::Build() {
   layout->setSpacing(2 * Gap);
   layout->addWidget(tvwPrint);
   layout->addLayout(buttons);
-  const QSize wanted(std::max(longest, sizeHint().width()), std::max(row, tvwPrint->sizeHintForRow(0)) * rows + 14 * Gap);
+  const QSize wanted(std::max(longest, sizeHint().width()), std::max(row, tvwPrint->sizeHintForRow(0)) * rows + 18 * Gap);
   resize(wanted.boundedTo(screen()->availableSize() * 0.9));
 }
 
