@@ -12,7 +12,6 @@
 #include <QTest>
 #include <QTextEdit>
 #include <QTimer>
-#include <cmath>
 
 #include "app/ElidedLabel.h"
 #include "app/MessageBoxes.h"
@@ -324,18 +323,6 @@ TEST_F(MainScreen, SavesEveryPageAsAPdf) {
   EXPECT_EQ(notices.size(), 1);
 }
 
-TEST_F(MainScreen, EveryControlHasANameAndAKey) {
-  Open();
-  for (const contentManager::Row &row : contentManager::Table()) {
-    screen->Pages().ShowPage(row.page);
-    for (const QAbstractButton *button : screen->findChildren<QAbstractButton *>()) {
-      if (!button->isVisible()) continue;
-      EXPECT_FALSE(button->accessibleName().isEmpty() && button->text().isEmpty()) << row.page << ' ' << button->objectName().toStdString();
-      EXPECT_NE(button->focusPolicy() & Qt::TabFocus, 0) << row.page << ' ' << button->objectName().toStdString();
-    }
-  }
-}
-
 TEST_F(MainScreen, GoesOnWithDamagedLanguageFilesAndAConfigurationThatCannotBeWritten) {
   const AppPaths paths = data.Paths();
   struct Fault {
@@ -474,26 +461,3 @@ TEST(SkyDialDots, NearPlanetsStandBelowEachOther) {
   EXPECT_EQ(SkyDial::StepsInward({359, 2}, 7), (std::vector<int>{1, 0})) << "the circle closes at Aries";
 }
 
-TEST(ThemeColours, TextStandsOutFromItsGround) {
-  const auto luminance = [](const QColor &colour) {
-    const auto part = [](double c) { return c <= 0.03928 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
-    return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF()) + 0.0722 * part(colour.blueF());
-  };
-  const QPalette before = qApp->palette();
-  for (const bool dark : {true, false}) {
-    QPalette desktop;
-    desktop.setColor(QPalette::Window, dark ? Qt::black : Qt::white);
-    qApp->setPalette(desktop);
-    Theme::Apply(*qApp);
-    const Theme &theme = Theme::Current();
-    ASSERT_EQ(theme.dark, dark);
-    const ChartPalette &chart = theme.chart;
-    for (const QColor &ground : {chart.card, chart.paper, theme.tint, theme.selection})
-      for (const QColor &text : {chart.ink, chart.muted, chart.maroon, chart.accent, chart.number, theme.bad, theme.good}) {
-        const double a = luminance(text) + 0.05, b = luminance(ground) + 0.05;
-        EXPECT_GE(std::max(a, b) / std::min(a, b), 4.5) << text.name().toStdString() << " on " << ground.name().toStdString();
-      }
-  }
-  qApp->setPalette(before);
-  Theme::Apply(*qApp);
-}

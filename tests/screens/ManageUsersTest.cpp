@@ -9,10 +9,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include <cmath>
 
-#include "content/Skin.h"
-#include "content/Theme.h"
 #include "persons/PersonFiles.h"
 #include "persons/frmManageUsers.h"
 #include "platform/Notices.h"
@@ -225,23 +222,6 @@ TEST_F(ManageUsers, EveryFieldSaysWhatItIsFor) {
     EXPECT_FALSE(field->toolTip().isEmpty()) << field->objectName();
   }
   EXPECT_EQ(Find<QComboBox>("cmbPerson")->toolTip(), "Enter the name of the person to generate the horoscope for.");
-}
-
-TEST_F(ManageUsers, ThePictureOfTheSaveButtonStandsOut) {
-  Skin::SetFolder(QStringLiteral(ORVANI_EPHE "/SKIN"));
-  const auto luminance = [](const QColor &colour) {
-    const auto part = [](double c) { return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
-    return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF()) + 0.0722 * part(colour.blueF());
-  };
-  const QImage picture = Skin::Picture("flpSave", Skin::State::OnPrimary).pixmap(24, 24).toImage();
-  int inked = 0;
-  for (int i = 0; i < 24 * 24; ++i) {
-    const QColor pixel = picture.pixelColor(i % 24, i / 24);
-    if (pixel.alpha() < 200) continue;
-    ++inked;
-    EXPECT_GT((luminance(pixel) + 0.05) / (luminance(Theme::Current().chart.maroon) + 0.05), 4.5) << pixel.name();
-  }
-  EXPECT_GT(inked, 20);
 }
 
 TEST_F(ManageUsers, TheListOfPlacesTellsThemApartAndGivesTheBareName) {
