@@ -9,7 +9,6 @@
 #include <QSignalSpy>
 #include <QTest>
 
-
 #include "persons/PersonFiles.h"
 #include "persons/frmManageUsers.h"
 #include "platform/Notices.h"
