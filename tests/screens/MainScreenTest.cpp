@@ -460,4 +460,3 @@ TEST(SkyDialDots, NearPlanetsStandBelowEachOther) {
   EXPECT_EQ(SkyDial::StepsInward({10, 100, 13, 16, 250}, 7), (std::vector<int>{0, 0, 1, 2, 0}));
   EXPECT_EQ(SkyDial::StepsInward({359, 2}, 7), (std::vector<int>{1, 0})) << "the circle closes at Aries";
 }
-

@@ -31,8 +31,7 @@ class TextSource {
   const std::vector<Row> &Rows() const { return rows_; }
 
  private:
-  void AddRow(const QString &file, int line, const QString &table, const QString &head, const QString &category,
-              const QString &val);
+  void AddRow(const QString &file, int line, const QString &table, const QString &head, const QString &category, const QString &val);
 
   std::vector<Row> rows_;
   QHash<QString, QString> places_;  ///< table, category and head in small letters, to "file:line" of the row
