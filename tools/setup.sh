@@ -5,7 +5,7 @@
 build_dir=build/release
 
 # What building and running need.
-run_packages=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libqt6sql6-sqlite libswe-dev swe-basic-data libboost-dev python3-fonttools
+run_packages=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libqt6sql6-sqlite libswe-dev swe-basic-data python3-fonttools
   fonts-liberation shared-mime-info hicolor-icon-theme)
 # What the tests need beside them.
 test_packages=(libgtest-dev libbenchmark-dev xvfb xauth hunspell hunspell-en-us poppler-utils)

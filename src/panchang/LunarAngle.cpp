@@ -3,10 +3,9 @@
 // Table: Speeds.
 #include "panchang/LunarAngle.h"
 
+#include <algorithm>
 #include <array>
-#include <boost/math/tools/toms748_solve.hpp>
 #include <cmath>
-#include <cstdint>
 
 namespace {
 
@@ -25,7 +24,6 @@ constexpr std::array<Range, 4> Speeds{{
     {0.94, 1.03},  // Sun
 }};
 
-constexpr double Slack = 1e-5;          // days, so that a root at the very edge lies inside the bracket
 constexpr double ToleranceDays = 1e-7;  // 0.009 seconds
 
 double Wrap360(double degrees) {
@@ -38,16 +36,20 @@ double Wrap180(double degrees) {
   return rest >= 180 ? rest - 360 : rest;
 }
 
-// The root between two moments, of which the angle is short of the target at the first and past it at the second.
-double Between(LunarAngle angle, double target, double from, double to, const Zodiac &zodiac) {
-  const auto past = [&](double day) { return Wrap180(AngleAt(angle, day, zodiac) - target); };
-  const double first = past(from), last = past(to);
-  if (first >= 0) return from;
-  if (last <= 0) return to;
-  std::uintmax_t rounds = 60;
-  const auto close = [](double a, double b) { return std::abs(a - b) < ToleranceDays; };
-  const auto bracket = boost::math::tools::toms748_solve(past, from, to, first, last, close, rounds);
-  return (bracket.first + bracket.second) / 2;
+// The moment at which an angle reaches its target, which it is `rest` degrees short of at the first moment, or past of where negative.
+// Secant steps, each kept within the angle's speeds: the curve is so nearly straight that four or five positions do.
+double MomentOf(LunarAngle angle, double target, double from, double rest, const Zodiac &zodiac) {
+  const Range &speed = Speeds[static_cast<size_t>(angle)];
+  double day = from, past = -rest, pace = (speed.slowest + speed.fastest) / 2;
+  for (int round = 0; round < 60; ++round) {
+    const double next = day - past / pace;
+    if (std::abs(next - day) < ToleranceDays) return next;
+    const double pastNext = Wrap180(AngleAt(angle, next, zodiac) - target);
+    pace = std::clamp((pastNext - past) / (next - day), speed.slowest, speed.fastest);
+    day = next;
+    past = pastNext;
+  }
+  return day;
 }
 
 }  // namespace
@@ -65,13 +67,9 @@ double AngleAt(LunarAngle angle, double universalDay, const Zodiac &zodiac) {
 }
 
 double NextMoment(LunarAngle angle, double target, double universalDay, const Zodiac &zodiac) {
-  const Range &speed = Speeds[static_cast<size_t>(angle)];
-  const double rest = Wrap360(target - AngleAt(angle, universalDay, zodiac));
-  return Between(angle, target, universalDay + rest / speed.fastest - Slack, universalDay + rest / speed.slowest + Slack, zodiac);
+  return MomentOf(angle, target, universalDay, Wrap360(target - AngleAt(angle, universalDay, zodiac)), zodiac);
 }
 
 double LastMoment(LunarAngle angle, double target, double universalDay, const Zodiac &zodiac) {
-  const Range &speed = Speeds[static_cast<size_t>(angle)];
-  const double gone = Wrap360(AngleAt(angle, universalDay, zodiac) - target);
-  return Between(angle, target, universalDay - gone / speed.slowest - Slack, universalDay - gone / speed.fastest + Slack, zodiac);
+  return MomentOf(angle, target, universalDay, -Wrap360(AngleAt(angle, universalDay, zodiac) - target), zodiac);
 }

@@ -380,3 +380,14 @@ TEST(HelpTextTest, EveryLinkHasItsTarget) {
   }
   EXPECT_GT(links, 5);
 }
+
+TEST_F(PageViewsTest, WordsOfATableCanBeSelectedWithTheMouse) {
+  PanchangView view;
+  Show(view);
+  auto *value = view.findChild<QLabel *>(QStringLiteral("lblPanchTodayVal1"));
+  ASSERT_NE(value, nullptr);
+  const QPoint onWords(8, value->height() / 2);
+  QTest::mouseDClick(value, Qt::LeftButton, {}, onWords);
+  EXPECT_FALSE(value->selectedText().isEmpty());
+  EXPECT_TRUE(value->text().contains(value->selectedText())) << value->selectedText().toStdString();
+}

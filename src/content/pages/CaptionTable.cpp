@@ -8,6 +8,7 @@
 
 #include "content/SetFonts.h"
 #include "content/Theme.h"
+#include "content/pages/SelectableLabel.h"
 #include "content/pages/SkinLabel.h"
 #include "platform/Errors.h"
 
@@ -40,13 +41,12 @@ void SetRole(QWidget &widget, const char *role) {
 }
 
 QLabel *MakeLabel(QWidget *parent, const QString &name, const char *role, bool bold, Qt::Alignment alignment, bool wrap) {
-  auto *label = new QLabel(parent);
+  auto *label = new SelectableLabel(parent);
   label->setObjectName(name);
   label->setProperty("role", QString::fromLatin1(role));
   label->setWordWrap(wrap);
   label->setContentsMargins(0, 2, 0, 2);
   label->setAlignment(alignment | Qt::AlignVCenter);
-  label->setTextInteractionFlags(Qt::TextSelectableByMouse);
   QFont font = label->font();
   font.setBold(bold);
   label->setFont(font);

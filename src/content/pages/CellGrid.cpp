@@ -7,6 +7,7 @@
 
 #include "content/SetFonts.h"
 #include "content/Theme.h"
+#include "content/pages/SelectableLabel.h"
 #include "platform/Errors.h"
 
 namespace {
@@ -16,11 +17,10 @@ constexpr int Side = 10, Gap = 4;
 constexpr int RunningBar = 4;
 
 QLabel *MakeLabel(QWidget *parent, const QString &name, const char *role, bool bold, Qt::Alignment alignment) {
-  auto *label = new QLabel(parent);
+  auto *label = new SelectableLabel(parent);
   label->setObjectName(name);
   label->setProperty("role", QString::fromLatin1(role));
   label->setAlignment(alignment | Qt::AlignVCenter);
-  label->setTextInteractionFlags(Qt::TextSelectableByMouse);
   QFont font = label->font();
   font.setBold(bold);
   label->setFont(font);

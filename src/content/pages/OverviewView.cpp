@@ -15,6 +15,7 @@
 #include "content/Theme.h"
 #include "content/pages/ChartFill.h"
 #include "content/pages/PageScroll.h"
+#include "content/pages/SelectableLabel.h"
 
 namespace {
 
@@ -87,10 +88,9 @@ OverviewView::OverviewView(QWidget *parent) : PageView(parent) {
 }
 
 QLabel *OverviewView::Label(const char *name, const char *role) {
-  auto *label = new QLabel(this);
+  auto *label = new SelectableLabel(this);
   label->setObjectName(name);
   label->setProperty("role", role);
-  label->setTextInteractionFlags(Qt::TextSelectableByMouse);
   labels.insert(QLatin1String(name), label);
   return label;
 }
