@@ -28,24 +28,27 @@ LanguageRow ReadRow(const Recordset &row) {
   return language;
 }
 
-}  // namespace
-
-std::vector<LanguageRow> OfferedLanguages(const AppPaths &paths) {
+std::vector<LanguageRow> AllLanguages(const AppPaths &paths) {
   const auto database = Database::OpenDatabase(paths.LangsPath(), Database::Mode::ReadOnly);
   Recordset rows = database->OpenRecordset(QStringLiteral("SELECT * FROM Language ORDER BY Name"));
   std::vector<LanguageRow> languages;
-  for (; !rows.AtEnd(); rows.MoveNext()) {
-    LanguageRow language = ReadRow(rows);
-    if (language.Include) languages.push_back(std::move(language));
-  }
+  for (; !rows.AtEnd(); rows.MoveNext()) languages.push_back(ReadRow(rows));
   return languages;
 }
 
+}  // namespace
+
+std::vector<LanguageRow> OfferedLanguages(const AppPaths &paths) {
+  std::vector<LanguageRow> languages = AllLanguages(paths);
+  std::erase_if(languages, [](const LanguageRow &language) { return !language.Include; });
+  return languages;
+}
+
+// Compared as read and not by the store: a name of strange bytes reads as other letters than it is stored in.
 std::optional<LanguageRow> FindLanguage(const AppPaths &paths, const QString &name) {
-  const auto database = Database::OpenDatabase(paths.LangsPath(), Database::Mode::ReadOnly);
-  const Recordset rows = database->OpenRecordset(QStringLiteral("SELECT * FROM Language WHERE Name = ? COLLATE NOCASE"), {name});
-  if (rows.IsEmpty()) return std::nullopt;
-  return ReadRow(rows);
+  for (LanguageRow &language : AllLanguages(paths))
+    if (language.Name.compare(name, Qt::CaseInsensitive) == 0) return std::move(language);
+  return std::nullopt;
 }
 
 std::shared_ptr<TextDb> OpenLanguageDb(const AppPaths &paths, const QString &langDirectory) {

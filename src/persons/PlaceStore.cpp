@@ -87,8 +87,9 @@ qlonglong PlaceStore::WriteCity(const Place &place) {
   return number;
 }
 
-void PlaceStore::SaveCountry(const QString &name, const QString &gmtDifference, const QString &former) {
+bool PlaceStore::SaveCountryOver(const QString &name, const QString &gmtDifference, const QString &former, const QString &seen) {
   Transaction transaction(*db);
+  if (!former.isEmpty() && (!HasCountry(former) || CountryDifference(former) != seen)) return false;
   Recordset row = db->OpenRecordset(QStringLiteral("SELECT * FROM Country WHERE Name = ?"), {former.isEmpty() ? name : former});
   if (row.IsEmpty())
     row.AddNew();
@@ -98,6 +99,7 @@ void PlaceStore::SaveCountry(const QString &name, const QString &gmtDifference, 
   row.SetField(QStringLiteral("GMTDIF"), gmtDifference);
   row.Update();
   transaction.Commit();
+  return true;
 }
 
 RowsKept PlaceStore::KeepCity(qlonglong row) const {

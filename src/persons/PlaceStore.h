@@ -25,8 +25,9 @@ class PlaceStore {
   // The same where the row is still as it was when `seen` was read; nothing otherwise, and the store is as it was. A new place has nothing
   // to be seen. Row numbers of deleted places come to be used again, so that a row may be another place by now.
   std::optional<qlonglong> SaveCityOver(const Place &place, const std::optional<Place> &seen);
-  // former: the name of the row to change; empty to add one. A country that is in the list by that name already is changed.
-  void SaveCountry(const QString &name, const QString &gmtDifference, const QString &former);
+  // former: the name of the row to change; empty to add one. A country that is in the list by that name already is changed. `seen` is the
+  // former's difference as it was read: where it is another by now, or the row is gone, false, and the store is as it was.
+  [[nodiscard]] bool SaveCountryOver(const QString &name, const QString &gmtDifference, const QString &former, const QString &seen);
 
   // A row as it lies before a save, to go back to; nothing in it where there is no such row.
   RowsKept KeepCity(qlonglong row) const;

@@ -492,7 +492,7 @@ void frmEditLongLat::SaveCity() {
   if (!row) {
     seenCity = places->Load(cityRow);  // saving again is the user's word
     if (!seenCity) cityRow = 0;
-    bar->Tell(tr("Not saved: %1 was changed or deleted in another window meanwhile. Save again to keep what stands here.").arg(place.City));
+    TellNotSaved(place.City);
     return;
   }
   cmdSave->setEnabled(false);
@@ -508,6 +508,10 @@ void frmEditLongLat::SaveCity() {
       ShowCity(*now);
     }
   });
+}
+
+void frmEditLongLat::TellNotSaved(const QString &name) {
+  bar->Tell(tr("Not saved: %1 was changed or deleted in another window meanwhile. Save again to keep what stands here.").arg(name));
 }
 
 void frmEditLongLat::DeleteCity() {
@@ -539,7 +543,8 @@ void frmEditLongLat::DeleteCity() {
 void frmEditLongLat::ShowCountry(const QString &name) {
   countryName = name;
   cboCNTRY->setEditText(name);
-  txtGMTDiff->setText(store.CountryDifference(name));
+  seenDifference = store.CountryDifference(name);
+  txtGMTDiff->setText(seenDifference);
   cmdCSave->setEnabled(false);
 }
 
@@ -573,7 +578,12 @@ void frmEditLongLat::SaveCountry() {
   const bool isAdded = countryName.isEmpty();
   const QString former = isAdded ? name : countryName;
   const RowsKept before = store.KeepCountry(former);
-  store.SaveCountry(name, PersonFields::DifferenceText(*difference), countryName);
+  if (!store.SaveCountryOver(name, PersonFields::DifferenceText(*difference), countryName, seenDifference)) {
+    seenDifference = store.CountryDifference(countryName);  // saving again is the user's word
+    if (!store.HasCountry(countryName)) countryName.clear();
+    TellNotSaved(name);
+    return;
+  }
   FillCountryLists();
   ShowCountry(name);
   bar->Clear();

@@ -66,6 +66,7 @@ class frmEditLongLat : public QDialog {
   void CheckAngle(QLineEdit *field);
   void Guard(const std::function<void()> &work);
   void PlacesAreChanged();
+  void TellNotSaved(const QString &name);
 
   std::shared_ptr<Database> db;
   PlaceStore store;
@@ -87,7 +88,8 @@ class frmEditLongLat : public QDialog {
   QComboBox *cboCNTRY;
   QLineEdit *txtGMTDiff;
   QPushButton *cmdCSave;
-  QString countryName;  // the row on the screen; empty for a new country
+  QString countryName;     // the row on the screen; empty for a new country
+  QString seenDifference;  // that row's as the store held it when it came on the screen
 
   QButtonGroup *methods, *ayanamshas, *nodes, *dayDivisions, *sunriseRules;  // ids are the stored values
   QLineEdit *txtCustAyan;

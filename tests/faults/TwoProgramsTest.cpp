@@ -172,6 +172,18 @@ TEST_F(TwoPrograms, APlaceChangedElsewhereIsNotOverwrittenUnawares) {
   EXPECT_EQ(stored().Longy, "08000");
   Click(options, "cmdSave");
   EXPECT_EQ(stored().Lat, "01111") << "the user's word";
+
+  auto *country = options.findChild<QComboBox *>("cboCNTRY");
+  emit country->activated(country->findText("India"));
+  Click(options, "cmdCModify");
+  options.findChild<QLineEdit *>("txtGMTDiff")->setText("+06.00");
+  ASSERT_TRUE(other.SaveCountryOver("India", "+05.45", "India", "+05.30"));
+  Click(options, "cmdCSave");
+  EXPECT_TRUE(Told(options).contains("India was changed")) << Told(options);
+  EXPECT_EQ(other.CountryDifference("India"), "+05.45");
+  Click(options, "cmdCSave");
+  EXPECT_EQ(other.CountryDifference("India"), "+06.00") << "the user's word";
+  FaultTable::Only().Add("a place or country changed in another window", "told; one's own saved when it is saved again", "shown");
 }
 
 // The lists and the open page follow, without a question.

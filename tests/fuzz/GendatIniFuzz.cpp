@@ -1,6 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Brivanta Works
 // SPDX-License-Identifier: AGPL-3.0-or-later
-// GENDAT.INI, which people also write by hand: whatever it holds, the day is shown, and a write changes one line and no other.
+// GENDAT.INI, which people also write by hand: whatever it holds, the day is shown, and a write changes one line and no other or
+// sets a damaged file aside whole.
+#include <QFile>
+
 #include "fuzz/Fuzz.h"
 #include "fuzz/FuzzFolder.h"
 #include "platform/clsIni.h"
@@ -46,6 +49,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
   after[1] = before[1];
   Require(after == before, "a write changes no other value");
 
+  const QString aside = folder.File("INIFILES/GENDAT.INI.damaged");
+  if (QFile::exists(aside)) {
+    Require(FuzzFolder::Read(aside) == content, "a file that is set aside keeps its content");
+    return 0;
+  }
   const QByteArrayList former = Lines(content), now = Lines(FuzzFolder::Read(folder.File("INIFILES/GENDAT.INI")));
   qsizetype same = 0;
   for (const QByteArray &line : now)

@@ -3,8 +3,6 @@
 #include "content/pages/AshtakavargaView.h"
 
 #include <QComboBox>
-#include <QHBoxLayout>
-#include <QSignalBlocker>
 
 #include "analysis/SelvaniDailyMod.h"
 #include "chart/Kundali.h"
@@ -36,7 +34,7 @@ QColor Heat(double share) {
 AshtakavargaView::AshtakavargaView(QWidget *parent)
     : PageView(parent),
       which(new BirthOrDay),
-      cmbAshtak(new QComboBox),
+      cmbAshtak(which->AddList(QStringLiteral("cmbAshtak"), tr("Points shown in the chart"))),
       table(new CellGrid(QStringLiteral("lblAshtak"), AshtakavargaPage::Rows, Signs + 1)),
       lblMost(MakeCardLine(QStringLiteral("lblAshtakMost"), "value")),
       lblFewest(MakeCardLine(QStringLiteral("lblAshtakFewest"), "value")),
@@ -44,8 +42,6 @@ AshtakavargaView::AshtakavargaView(QWidget *parent)
       chart(new Kundali) {
   setObjectName(QStringLiteral("framAshtak"));
   setAccessibleName(tr("Ashtakavarga"));
-  cmbAshtak->setObjectName(QStringLiteral("cmbAshtak"));
-  cmbAshtak->setAccessibleName(tr("Points shown in the chart"));
   chart->setObjectName(QStringLiteral("kunAshtak"));
   chart->setMinimumSize(280, 280);
   chart->setMaximumHeight(ChartHeight);
@@ -54,12 +50,7 @@ AshtakavargaView::AshtakavargaView(QWidget *parent)
   auto *column = new QVBoxLayout(content);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(Grid::Gap * 2);
-  auto *choices = new QHBoxLayout;
-  choices->setSpacing(Grid::Gap * 2);
-  choices->addWidget(which);
-  choices->addWidget(cmbAshtak);
-  choices->addStretch();
-  column->addLayout(choices);
+  column->addWidget(which, 0, Qt::AlignLeft);
   auto *figures = new Card;
   figures->Body()->addWidget(table, 1);
   figures->Body()->addWidget(lblMost);
@@ -74,17 +65,14 @@ AshtakavargaView::AshtakavargaView(QWidget *parent)
   column->addWidget(halves, 1);
   PageScroll::Fill(this, content);
   connect(which, &BirthOrDay::Changed, this, &AshtakavargaView::ShowChosen);
-  connect(cmbAshtak, &QComboBox::currentIndexChanged, this, &AshtakavargaView::ShowChosen);
 }
 
 void AshtakavargaView::Fill(SelvaniDailyMod &session) {
   settings = &session.Settings();
   pages = {FillAshtakavarga(session.BirthChart()), FillAshtakavarga(session.TodayChart())};
-  const int before = cmbAshtak->currentIndex();
-  const QSignalBlocker quiet(cmbAshtak);
-  cmbAshtak->clear();
-  for (const AshtakavargaPage::Row &row : pages[BirthOrDay::Birth].rows) cmbAshtak->addItem(row.name);
-  cmbAshtak->setCurrentIndex(before < 0 ? AshtakavargaPage::Total : before);
+  QStringList names;
+  for (const AshtakavargaPage::Row &row : pages[BirthOrDay::Birth].rows) names << row.name;
+  which->SetList(names, AshtakavargaPage::Total);
   ShowChosen();
 }
 
@@ -123,7 +111,6 @@ void AshtakavargaView::ShowChosen() {
 void AshtakavargaView::ApplyFonts(const SetFonts &fonts) {
   which->ApplyFonts(fonts);
   table->ApplyFonts(fonts);
-  fonts.SetSmallFont(*cmbAshtak);
   for (QLabel *label : {lblMost, lblFewest, chartHead}) fonts.SetSmallFont(*label);
   fonts.SetKundaliFont(*chart);
 }

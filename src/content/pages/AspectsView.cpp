@@ -4,8 +4,6 @@
 
 #include <QComboBox>
 #include <QGridLayout>
-#include <QHBoxLayout>
-#include <QSignalBlocker>
 
 #include "analysis/SelvaniDailyMod.h"
 #include "content/SetFonts.h"
@@ -32,13 +30,11 @@ CaptionTable::Tone ToneOfDignity(const QString &mark) {
 AspectsView::AspectsView(QWidget *parent)
     : PageView(parent),
       which(new BirthOrDay),
-      cmbAspectKind(new QComboBox),
+      cmbAspectKind(which->AddList(QStringLiteral("cmbAspectKind"), tr("Kind of aspects in the grid"))),
       grid(new CellGrid(QStringLiteral("lblAspect"), AspectsPage::Points, AspectsPage::Points)),
       lblAspectHelp(MakeCardLine(QStringLiteral("lblAspectHelp"))) {
   setObjectName(QStringLiteral("framAspects"));
   setAccessibleName(tr("Aspects"));
-  cmbAspectKind->setObjectName(QStringLiteral("cmbAspectKind"));
-  cmbAspectKind->setAccessibleName(tr("Kind of aspects in the grid"));
   bySign = new CaptionTable({{.element = QStringLiteral("lblAspPlanet"), .head = QStringLiteral("lblAspPlanetHead"), .strong = true},
                              {.element = QStringLiteral("lblAspDignity"), .head = QStringLiteral("lblAspDignityHead")},
                              {.element = QStringLiteral("lblAspStanding"), .head = QStringLiteral("lblAspStandingHead")},
@@ -59,12 +55,7 @@ AspectsView::AspectsView(QWidget *parent)
   auto *column = new QVBoxLayout(content);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(Grid::Gap * 2);
-  auto *choices = new QHBoxLayout;
-  choices->setSpacing(Grid::Gap * 2);
-  choices->addWidget(which);
-  choices->addWidget(cmbAspectKind);
-  choices->addStretch();
-  column->addLayout(choices);
+  column->addWidget(which, 0, Qt::AlignLeft);
   auto *gridCard = new Card;
   gridCard->Body()->addWidget(grid);
   gridCard->Body()->addWidget(lblAspectHelp);
@@ -77,17 +68,13 @@ AspectsView::AspectsView(QWidget *parent)
   column->addStretch(1);
   PageScroll::Fill(this, content);
   connect(which, &BirthOrDay::Changed, this, &AspectsView::ShowChosen);
-  connect(cmbAspectKind, &QComboBox::currentIndexChanged, this, &AspectsView::ShowChosen);
 }
 
 void AspectsView::Fill(SelvaniDailyMod &session) {
   pages = {FillAspects(session.BirthChart()), FillAspects(session.TodayChart())};
   filled = true;
-  const int before = cmbAspectKind->currentIndex();
-  const QSignalBlocker quiet(cmbAspectKind);
-  cmbAspectKind->clear();
-  for (const QString &name : pages[BirthOrDay::Birth].kindNames) cmbAspectKind->addItem(name);
-  cmbAspectKind->setCurrentIndex(before < 0 ? AspectsPage::BySign : before);
+  const auto &kinds = pages[BirthOrDay::Birth].kindNames;
+  which->SetList({kinds.begin(), kinds.end()}, AspectsPage::BySign);
   ShowChosen();
 }
 
@@ -146,7 +133,6 @@ void AspectsView::ShowGrid(const AspectsPage &page) {
 
 void AspectsView::ApplyFonts(const SetFonts &fonts) {
   which->ApplyFonts(fonts);
-  fonts.SetSmallFont(*cmbAspectKind);
   fonts.SetSmallFont(*lblAspectHelp);
   grid->ApplyFonts(fonts);
   for (CaptionTable *table : {bySign, byDegrees}) table->ApplyFonts(fonts);

@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "content/pages/BirthOrDay.h"
 
+#include <QComboBox>
 #include <QHBoxLayout>
 #include <QRadioButton>
+#include <QSignalBlocker>
 
 #include "content/SetFonts.h"
 #include "content/Theme.h"
@@ -23,6 +25,26 @@ BirthOrDay::BirthOrDay(QWidget *parent) : QWidget(parent), options{new QRadioBut
 
 size_t BirthOrDay::Chosen() const { return options[Day]->isChecked() ? Day : Birth; }
 
+QComboBox *BirthOrDay::AddList(const QString &element, const QString &accessibleName) {
+  list = new QComboBox;
+  list->setObjectName(element);
+  list->setAccessibleName(accessibleName);
+  auto *row = static_cast<QHBoxLayout *>(layout());
+  row->addSpacing(Grid::Gap);
+  row->addWidget(list);
+  connect(list, &QComboBox::currentIndexChanged, this, &BirthOrDay::Changed);
+  return list;
+}
+
+void BirthOrDay::SetList(const QStringList &names, int first) {
+  const QSignalBlocker quiet(list);
+  const int before = list->currentIndex();
+  list->clear();
+  list->addItems(names);
+  list->setCurrentIndex(before < 0 ? first : before);
+}
+
 void BirthOrDay::ApplyFonts(const SetFonts &fonts) {
+  if (list) fonts.SetSmallFont(*list);
   for (QRadioButton *option : options) fonts.SetSmallFont(*option);
 }

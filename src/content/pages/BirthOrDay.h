@@ -5,10 +5,11 @@
 #include <QWidget>
 #include <array>
 
+class QComboBox;
 class QRadioButton;
 class SetFonts;
 
-// Chooses which of the two charts a page shows.
+// Chooses which of the two charts a page shows, and where asked for, what of it.
 class BirthOrDay : public QWidget {
   Q_OBJECT
 
@@ -18,6 +19,12 @@ class BirthOrDay : public QWidget {
   explicit BirthOrDay(QWidget *parent = nullptr);
 
   size_t Chosen() const;
+
+  // A list beside it, of which Changed tells too. element: its object name.
+  QComboBox *AddList(const QString &element, const QString &accessibleName);
+  // What the list offers. What was chosen in it stays chosen; `first` the first time. Tells nothing.
+  void SetList(const QStringList &names, int first);
+
   void ApplyFonts(const SetFonts &fonts);
 
  signals:
@@ -25,4 +32,5 @@ class BirthOrDay : public QWidget {
 
  private:
   std::array<QRadioButton *, 2> options{};
+  QComboBox *list = nullptr;
 };

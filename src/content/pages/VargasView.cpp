@@ -3,8 +3,6 @@
 #include "content/pages/VargasView.h"
 
 #include <QComboBox>
-#include <QHBoxLayout>
-#include <QSignalBlocker>
 
 #include "analysis/SelvaniDailyMod.h"
 #include "chart/Kundali.h"
@@ -30,15 +28,13 @@ constexpr int SameSignRow = VargasPage::Vargas;  // under the vargas
 VargasView::VargasView(QWidget *parent)
     : PageView(parent),
       which(new BirthOrDay),
-      cmbVarga(new QComboBox),
+      cmbVarga(which->AddList(QStringLiteral("cmbVarga"), tr("Divisional chart"))),
       chartHead(MakeCardHead(QStringLiteral("lblVargaHead"))),
       chart(new Kundali),
       table(new CellGrid(QStringLiteral("lblVarga"), VargasPage::Vargas + 1, VargasPage::Points)),
       lblVargottama(MakeCardLine(QStringLiteral("lblVargottama"), "value")) {
   setObjectName(QStringLiteral("framVargas"));
   setAccessibleName(tr("Divisional charts"));
-  cmbVarga->setObjectName(QStringLiteral("cmbVarga"));
-  cmbVarga->setAccessibleName(tr("Divisional chart"));
   chart->setObjectName(QStringLiteral("kunVarga"));
   list = new CaptionTable({{.element = QStringLiteral("lblVargaPoint"), .head = QStringLiteral("lblVargaPointHead"), .strong = true},
                            {.element = QStringLiteral("lblVargaRashi"), .head = QStringLiteral("lblVargaRashiHead")},
@@ -51,12 +47,7 @@ VargasView::VargasView(QWidget *parent)
   auto *column = new QVBoxLayout(content);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(Grid::Gap * 2);
-  auto *choices = new QHBoxLayout;
-  choices->setSpacing(Grid::Gap * 2);
-  choices->addWidget(which);
-  choices->addWidget(cmbVarga);
-  choices->addStretch();
-  column->addLayout(choices);
+  column->addWidget(which, 0, Qt::AlignLeft);
   auto *drawing = new Card;
   drawing->Body()->addWidget(chartHead);
   chart->setMinimumSize(280, 280);
@@ -74,17 +65,14 @@ VargasView::VargasView(QWidget *parent)
   column->addStretch(0);
   PageScroll::Fill(this, content);
   connect(which, &BirthOrDay::Changed, this, &VargasView::ShowChosen);
-  connect(cmbVarga, &QComboBox::currentIndexChanged, this, &VargasView::ShowChosen);
 }
 
 void VargasView::Fill(SelvaniDailyMod &session) {
   settings = &session.Settings();
   pages = {FillVargas(session.BirthChart()), FillVargas(session.TodayChart())};
-  const int before = cmbVarga->currentIndex();
-  const QSignalBlocker quiet(cmbVarga);
-  cmbVarga->clear();
-  for (const VargasPage::Varga &varga : pages[BirthOrDay::Birth].vargas) cmbVarga->addItem(varga.name);
-  cmbVarga->setCurrentIndex(before < 0 ? Navamsha - 1 : before);
+  QStringList names;
+  for (const VargasPage::Varga &varga : pages[BirthOrDay::Birth].vargas) names << varga.name;
+  which->SetList(names, Navamsha - 1);
   ShowChosen();
 }
 
@@ -136,8 +124,7 @@ void VargasView::ShowChosen() {
 
 void VargasView::ApplyFonts(const SetFonts &fonts) {
   which->ApplyFonts(fonts);
-  for (QWidget *widget : {static_cast<QWidget *>(cmbVarga), static_cast<QWidget *>(chartHead), static_cast<QWidget *>(lblVargottama)})
-    fonts.SetSmallFont(*widget);
+  for (QLabel *widget : {chartHead, lblVargottama}) fonts.SetSmallFont(*widget);
   fonts.SetKundaliFont(*chart);
   list->ApplyFonts(fonts);
   table->ApplyFonts(fonts);
