@@ -99,6 +99,7 @@ void SelvaniDailyMod::SetBirthPerson(const BirthRecord &record) {
   SetPlace(person, record.place, DecimalGmtDiff(record.place.GMTDIFF));
   person.SetTimeCorr(record.TimeCorr);
   chart->Calculate();
+  dashas.Forget();
   birthChart = std::move(chart);
 }
 

@@ -607,8 +607,8 @@ void frmMain::ChangePerson(const QString &name) {
     if (!session->LoadPerson(name)) return;
     session->BuildAnalysis(clock());
   } catch (const Error &error) {
+    // A residence that cannot be used leaves the day's chart as it was, beside the new birth.
     Notices::Show({Notice::Kind::Warning, QString(), error.Sentence()});
-    return;
   }
   ShowPersonHeader();
   pages->ShowAgain();

@@ -72,10 +72,15 @@ void clsDashas::GenerateDashaLevel(int lord, int position, QDateTime start, doub
 }
 
 // Takes the period by value: the level that it stands in is replaced.
+void clsDashas::Forget() {
+  current = nullptr;
+  level = 0;
+}
+
 void clsDashas::GenerateFrom(DashaPeriod period) { GenerateDashaLevel(period.Lord, period.Position, period.Start, period.Length, records); }
 
 void clsDashas::GoDeep(int &index) {
-  if (level == Deepest) {
+  if (level >= Deepest) {
     page.status = QStringLiteral("Can't generate beyond Prana Dasha.");
     return;
   }

@@ -27,6 +27,8 @@ class clsDashas {
   clsDashas(std::function<const clsPlanets &()> birthChart, std::function<QDateTime()> analysisMoment);
 
   void CalcDashaVimshottari(const clsPlanets &chart);
+  // Before the chart last handed over goes away: Level is 0 until a dasha is calculated again.
+  void Forget();
   // Goes down into the period of the 0-based index, which becomes 1-based in the caller's variable; at level 5
   // it only says so in the status line. An index outside 0 to 8 throws SubscriptError.
   void GoDeep(int &index);
@@ -35,7 +37,7 @@ class clsDashas {
   // Shorter when a level starts at or after the moment itself.
   QString CalcCurrentDasha(const clsPlanets &chart);
 
-  int Level() const { return level; }  // 1 Mahadasha to 5 Prana
+  int Level() const { return level; }  // 1 Mahadasha to 5 Prana; 0 before the first
   const DashaLevel &Records() const { return records; }
   const DashaPage &Page() const { return page; }
 

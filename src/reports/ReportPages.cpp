@@ -94,7 +94,8 @@ void clsDailyPrinter::PrintPlanets() {
 void clsDailyPrinter::PrintPlanetTable(const clsPlanets &chart, const QString &title, double y0, bool withFooter) {
   constexpr double rowHeight = 300;
   constexpr int rowCount = 13;
-  const PlanetTablePage page = FillPlanets(chart);
+  PlanetTablePage page = FillPlanets(chart);
+  page.rows[0].lblDir = chart.Direction(0);  // left empty on the screen alone
   const double x0 = LeftMargin + Inches(0.2), column = Inches(0.8), head = Inches(0.3), room = column - 130;
   Title(title, x0 + Inches(3.4), y0 - Inches(0.25));
   printer.SetDrawWidth(1);

@@ -77,6 +77,14 @@ class MainScreen : public testing::Test {
     QTest::mouseClick(button, Qt::LeftButton);
   }
 
+  // Born in New York on a leap day.
+  void AddMaya() {
+    Database::OpenDatabase(data.Paths().RecosPath())
+        ->Execute(
+            "INSERT INTO Person (Name, Day, Month, Year, Hour, Minutes, AMPM, City, Sex, Country, GMTDIFF, LatDeg, LatMT, LongDeg, LongMT, "
+            "TextNS, TextEW) VALUES ('Maya O''Brien', 29, 2, 2024, 2, 15, 1, 'New York', 2, 'USA', '-5.00', 40, 43, 74, 0, 'N', 'W')");
+  }
+
   // What a user does in the modal screen that the next action opens.
   template <typename Screen>
   void InModal(std::function<void(Screen &)> act) {
@@ -191,13 +199,7 @@ TEST_F(MainScreen, KeepsTheStatedRectangle) {
 }
 
 TEST_F(MainScreen, ChangesPersonAndMoment) {
-  {
-    const auto store = Database::OpenDatabase(data.Paths().RecosPath());
-    store->Execute(
-        "INSERT INTO Person (Name, Day, Month, Year, Hour, Minutes, AMPM, City, Sex, Country, GMTDIFF, LatDeg, LatMT, LongDeg, LongMT, "
-        "TextNS, "
-        "TextEW) VALUES ('Maya O''Brien', 29, 2, 2024, 2, 15, 1, 'New York', 2, 'USA', '-5.00', 40, 43, 74, 0, 'N', 'W')");
-  }
+  AddMaya();
   Open();
   screen->Pages().ShowPage(9);
   const QString ascendant = Caption("lblDegrees0");
@@ -225,6 +227,24 @@ TEST_F(MainScreen, ChangesPersonAndMoment) {
   ASSERT_TRUE(QTest::qWaitForWindowActive(screen.get()));
   QTest::keyClick(screen.get(), Qt::Key_Right, Qt::ControlModifier);
   EXPECT_EQ(Caption("lblNowInfo"), "Today : Monday, November 23, 2026 0:0 ");
+}
+
+TEST_F(MainScreen, AResidenceThatCannotBeUsedLeavesAWholeBirth) {
+  AddMaya();
+  Database::OpenDatabase(data.Paths().DailyPath())
+      ->Execute("INSERT INTO Person (Name, GMTDIFF, LatDeg, LongDeg) VALUES ('Maya O''Brien', '-5.00', 999, 74)");
+  Open();
+  screen->Pages().ShowPage(11);
+  auto *row = Find<QAbstractButton>("lblVimElement3");
+  ASSERT_NE(row, nullptr);
+  screen->ChangePerson("Maya O'Brien");
+  ASSERT_EQ(notices.size(), 1);
+  EXPECT_TRUE(notices[0].contains("999")) << notices[0].toStdString();
+  EXPECT_EQ(Caption("lblPersonName"), "Maya O'Brien");
+  const QString caption = row->text();
+  QTest::mouseClick(row, Qt::LeftButton);
+  EXPECT_NE(row->text(), caption);
+  EXPECT_EQ(screen->Session().DashaCalc().Level(), 2);
 }
 
 TEST_F(MainScreen, AsksBeforeItEnds) {
