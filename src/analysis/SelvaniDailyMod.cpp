@@ -60,6 +60,14 @@ const clsPlanets &SelvaniDailyMod::TodayChart() const {
 }
 
 bool SelvaniDailyMod::LoadPerson(const QString &name) {
+  const bool isFound = LoadBirth(name);
+  if (isFound && remember) remember(BirthChart().clsPerson().Name());
+  return isFound;
+}
+
+bool SelvaniDailyMod::ReloadPerson() { return LoadBirth(BirthChart().clsPerson().Name()); }
+
+bool SelvaniDailyMod::LoadBirth(const QString &name) {
   if (!stores.personDb) return false;
   Recordset found = stores.personDb->OpenRecordset(QStringLiteral("SELECT * FROM PERSON WHERE Name = ?"), {name.trimmed()});
   if (found.RecordCount() == 0) return false;
@@ -71,7 +79,6 @@ bool SelvaniDailyMod::LoadPerson(const QString &name) {
   } catch (const ConversionError &error) {
     throw ConversionError(QStringLiteral("The birth of '%1' cannot be calculated. %2").arg(record.Name.trimmed(), error.Sentence()));
   }
-  if (remember) remember(record.Name);
   return true;
 }
 

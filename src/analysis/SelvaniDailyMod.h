@@ -34,6 +34,8 @@ class SelvaniDailyMod {
   // Loads the first person of this name (blanks around it do not count). Gives false, and changes nothing, where
   // there is none. Throws StoreError, and ConversionError for a record that cannot be read.
   bool LoadPerson(const QString &name);
+  // The person shown, as the store has it by now; false, and no change, where it is gone. Throws as LoadPerson does.
+  bool ReloadPerson();
   // The person last shown, else the first by name; false for an empty store.
   bool LoadLastPerson(const QString &lastPerson);
   void SetBirthPerson(const BirthRecord &record);
@@ -63,6 +65,7 @@ class SelvaniDailyMod {
   QString CurrentDashaText();  // the running lords' short names joined by "-"
 
  private:
+  bool LoadBirth(const QString &name);
   std::optional<PlaceRecord> StoredResidence(const QString &name) const;
 
   UserSettings &settings;

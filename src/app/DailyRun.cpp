@@ -26,6 +26,7 @@
 #include "platform/Notices.h"
 #include "platform/Numbers.h"
 #include "platform/Recordset.h"
+#include "platform/ReportError.h"
 #include "platform/StoreKeeper.h"
 #include "platform/UserSettings.h"
 #include "platform/clsIni.h"
@@ -61,9 +62,9 @@ LanguageRow ChosenLanguage(const AppPaths &paths, const clsIni &ini) {
   bool isPlace = false;
   const int place = chosen.toInt(&isPlace);
   if (isPlace) {
-    const std::vector<LanguageRow> offered = OfferedLanguages(paths);
-    const int count = static_cast<int>(offered.size());
-    if (count > 0) return offered[static_cast<size_t>(place >= 0 && place < count ? place : 0)];
+    const std::vector<LanguageRow> shown = OfferedLanguages(paths);
+    const int count = static_cast<int>(shown.size());
+    if (count > 0) return shown[static_cast<size_t>(place >= 0 && place < count ? place : 0)];
   }
   std::optional<LanguageRow> language = FindLanguage(paths, chosen);
   if (!language) language = FindLanguage(paths, english);
@@ -174,6 +175,10 @@ int ShowDay(const DailyOptions &options, const AppPaths &paths, std::shared_ptr<
     }
     return 0;
   } catch (const StoreError &) {
+    throw;
+  } catch (const MissingFileError &) {
+    throw;
+  } catch (const ReportError &) {
     throw;
   } catch (const Error &error) {
     // A number, a date or a place that cannot be calculated.

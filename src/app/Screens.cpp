@@ -45,6 +45,7 @@ int WriteScreens(const QString &folder, const AppPaths &paths, MessageBoxes &box
   QDir().mkpath(folder);
   Writer writer{QDir(folder)};
   boxes.SetPresenter([](const Notice &notice) { std::fprintf(stderr, "orvani: %s\n", qUtf8Printable(notice.text)); });
+  boxes.SetAsker([](const QString &, const QString &) { return false; });  // nobody is there to answer
   MemoryUserSettings settings;
   const qreal scale = qApp->devicePixelRatio();
   const QString suffix = scale > 1 ? QStringLiteral("@%1x").arg(scale) : QString();

@@ -8,6 +8,6 @@ class AppPaths;
 class MessageBoxes;
 
 // Writes a picture of every page, in each chart style where it matters, and of the small screens into a folder, at the
-// window sizes that people use. Works on the sample person and a fixed moment, and changes no setting. Returns the
-// program's exit code.
+// window sizes that people use. Works on the person last chosen and a fixed moment, with the settings of a new user, of which none is
+// kept. Returns the program's exit code.
 int WriteScreens(const QString &folder, const AppPaths &paths, MessageBoxes &boxes);

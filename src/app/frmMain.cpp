@@ -490,7 +490,6 @@ void frmMain::OpenDatabases() {
   });
 }
 
-// This program lists the one language "English", whatever other rows the table holds.
 void frmMain::LoadLanguages() {
   languages.clear();
   cmbLang->clear();
@@ -507,7 +506,6 @@ void frmMain::LoadLanguages() {
     offered.push_back(own);
   }
   for (LanguageRow &language : offered) {
-    if (language.Name != QLatin1String("English") || !language.Include) continue;
     cmbLang->addItem(language.Name);
     languages.push_back(std::move(language));
   }
@@ -602,27 +600,33 @@ void frmMain::ShowMoment() {
   }
 }
 
-void frmMain::ChangePerson(const QString &name) {
+// A step that fails can have changed a part already: a residence that cannot be used leaves the day's chart as it was, beside the new
+// birth. So what there is is shown either way.
+void frmMain::ShowAfter(const std::function<void()> &step) {
   try {
-    if (!session->LoadPerson(name)) return;
-    session->BuildAnalysis(clock());
+    step();
   } catch (const Error &error) {
-    // A residence that cannot be used leaves the day's chart as it was, beside the new birth.
     Notices::Show({Notice::Kind::Warning, QString(), error.Sentence()});
   }
   ShowPersonHeader();
   pages->ShowAgain();
 }
 
+void frmMain::ChangePerson(const QString &name) {
+  ShowAfter([&] {
+    if (session->LoadPerson(name)) session->BuildAnalysis(clock());
+  });
+}
+
 void frmMain::ChangeMoment(const QDateTime &moment) {
-  try {
-    session->BuildAnalysis(moment);
-  } catch (const Error &error) {
-    Notices::Show({Notice::Kind::Warning, QString(), error.Sentence()});
-    return;
-  }
-  ShowMoment();
-  pages->ShowAgain();
+  ShowAfter([&] { session->BuildAnalysis(moment); });
+}
+
+void frmMain::CalculateAnew() {
+  ShowAfter([this] {
+    SelectLastPerson();
+    session->BuildAnalysis(session->AnalysisMoment());
+  });
 }
 
 // --- actions --------------------------------------------------------------------------------------------------------------
@@ -667,14 +671,10 @@ void frmMain::OpenPersonManager() {
     manager.ChoosePerson(session->BirthChart().clsPerson().Name());
     connect(&manager, &frmManageUsers::CityListWanted, this, &frmMain::OpenOptions);
     connect(&manager, &frmManageUsers::Closed, this, [this](const QString &name) {
-      try {
+      ShowAfter([&] {
         session->LoadPerson(name);
         session->BuildAnalysis(session->AnalysisMoment());
-      } catch (const Error &error) {
-        Notices::Show({Notice::Kind::Warning, QString(), error.Sentence()});
-      }
-      ShowPersonHeader();
-      pages->ShowAgain();
+      });
     });
     manager.exec();
   } catch (const Error &error) {
@@ -687,11 +687,7 @@ void frmMain::OpenOptions() {
   if (!persons) return;
   FollowOthers();
   frmEditLongLat options(persons, settings, ini, this);
-  connect(&options, &frmEditLongLat::CalculationChanged, this, [this] {
-    SelectLastPerson();
-    ChangeMoment(session->AnalysisMoment());
-    ShowPersonHeader();
-  });
+  connect(&options, &frmEditLongLat::CalculationChanged, this, &frmMain::CalculateAnew);
   options.exec();
 }
 
@@ -706,10 +702,7 @@ void frmMain::OpenDate() {
 void frmMain::OpenSettings() {
   FollowOthers();
   frmSettings wizard(settings, ini, this);
-  wizard.exec();
-  SelectLastPerson();
-  ChangeMoment(session->AnalysisMoment());
-  ShowPersonHeader();
+  if (wizard.exec() == QDialog::Accepted) CalculateAnew();
 }
 
 void frmMain::OpenPrint() {
@@ -790,15 +783,19 @@ void frmMain::FollowOthers() {
   if (!session || !session->HasAnalysis()) return;
   try {
     const bool isOfOtherSettings = settings.Refresh();
-    if (!(StoresChanged() || isOfOtherSettings) || sampleShown) return;
-    const QString name = session->BirthChart().clsPerson().Name();
-    if (!session->LoadPerson(name)) {
-      lblHint->setText(tr("%1 is no longer in the list of persons.").arg(name));
+    followDue = StoresChanged() || isOfOtherSettings || followDue;
+    if (!followDue) return;
+    if (sampleShown) {
+      SelectLastPerson();  // the first person that another window adds
+    } else if (!session->ReloadPerson()) {
+      followDue = false;
+      lblHint->setText(tr("%1 is no longer in the list of persons.").arg(session->BirthChart().clsPerson().Name()));
       return;
     }
     session->BuildAnalysis(session->AnalysisMoment());
+    followDue = false;
   } catch (const Error &) {
-    return;  // told at the next step that needs the store; a box here would come again with each return to the window
+    return;  // tried again at the next return to the window, where a box would come again and again
   }
   ShowPersonHeader();
   pages->ShowAgain();

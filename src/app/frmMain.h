@@ -97,6 +97,8 @@ class frmMain : public QMainWindow {
   void OnPageShown(int page);
   void PlaceContent();
   void SavePosition();
+  void ShowAfter(const std::function<void()> &step);
+  void CalculateAnew();
   void FollowOthers();
   bool StoresChanged();
 
@@ -113,6 +115,7 @@ class frmMain : public QMainWindow {
   SetFonts fonts;
   bool sampleShown = false;  // no stored person is to be had
   std::pair<qlonglong, qlonglong> seenStores;
+  bool followDue = false;  // another window's change is not shown yet
 
   QWidget *header = nullptr;
   HeaderCard *personCard = nullptr, *dateCard = nullptr;

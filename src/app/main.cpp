@@ -87,7 +87,7 @@ int main(int argc, char **argv) {
     return QApplication::exec();
   } catch (const Error &error) {
     std::fprintf(stderr, "orvani: %s\n", error.what());
-    QMessageBox::critical(nullptr, Maker::Title, error.Sentence());
+    if (QGuiApplication::platformName() != QLatin1String("offscreen")) QMessageBox::critical(nullptr, Maker::Title, error.Sentence());
     return 1;
   }
 }

@@ -40,7 +40,7 @@ std::vector<LanguageRow> AllLanguages(const AppPaths &paths) {
 
 std::vector<LanguageRow> OfferedLanguages(const AppPaths &paths) {
   std::vector<LanguageRow> languages = AllLanguages(paths);
-  std::erase_if(languages, [](const LanguageRow &language) { return !language.Include; });
+  std::erase_if(languages, [](const LanguageRow &language) { return !language.Include || language.Name != QLatin1String("English"); });
   return languages;
 }
 

@@ -19,7 +19,7 @@ struct LanguageRow {
   bool HeadBold = false, SubHeadBold = false;
 };
 
-// The languages that are offered, by name. Throws StoreError.
+// The languages that are offered: the one "English", whatever other rows the list holds. Throws StoreError.
 std::vector<LanguageRow> OfferedLanguages(const AppPaths &paths);
 
 // One language, whether it is offered or not; none for a name that is not in the list.

@@ -264,7 +264,7 @@ TEST_F(DailyProgram, TellsThatTheAnswerCannotBeWritten) {
   }
 }
 
-// The screen keeps a place in its list of languages, a hand may write a name.
+// The screen keeps a place in its list, which is English alone; a hand may write any name.
 TEST_F(DailyProgram, SpeaksTheChosenLanguage) {
   const auto list = Database::OpenDatabase(data.File("COMMON/LANGS.Dat"));
   list->Execute("DELETE FROM Language WHERE Name <> 'English'");
@@ -272,8 +272,7 @@ TEST_F(DailyProgram, SpeaksTheChosenLanguage) {
   list->Execute("CREATE TEMP TABLE Other AS SELECT * FROM Language");
   list->Execute("UPDATE Other SET Name = 'Zulu', Directory = 'ZULU'");
   list->Execute("INSERT INTO Language SELECT * FROM Other");
-  const std::pair<const char *, bool> rows[] = {{"0", true},     {"1", false},      {"7", true},
-                                                {"zulu", false}, {"English", true}, {"Welsh", true}};
+  const std::pair<const char *, bool> rows[] = {{"0", true}, {"1", true}, {"7", true}, {"zulu", false}, {"English", true}, {"Welsh", true}};
   for (const auto &[chosen, english] : rows) {
     WriteWholeFile(data.File("INIFILES/GENDAT.INI"), QByteArray("[Orvani]\nSelLang=") + chosen + '\n');
     const Answer answer = Call({});

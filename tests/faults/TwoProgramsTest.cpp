@@ -213,3 +213,13 @@ TEST_F(TwoPrograms, TheWindowShowsWhatAnotherOneSaved) {
   EXPECT_EQ(screen->Session().BirthChart().clsPerson().Name(), "Mira") << "the open day stays";
   EXPECT_TRUE(notices.isEmpty()) << notices.join('\n');
 }
+
+TEST_F(TwoPrograms, TheSampleGivesWayToTheFirstPersonAnotherWindowAdds) {
+  Database::OpenDatabase(Recos())->Execute("DELETE FROM Person");
+  ASSERT_TRUE(Start());
+  ASSERT_NE(screen->Session().BirthChart().clsPerson().Name(), "Nila");
+  SaveElsewhere(Numbered("Nila", 12));
+  QEvent activated(QEvent::WindowActivate);
+  QApplication::sendEvent(screen.get(), &activated);
+  EXPECT_EQ(screen->findChild<QLabel *>("lblPersonName")->text(), "Nila");
+}
