@@ -123,13 +123,15 @@ class Filler {
   }
 
   void FillDivisions() {
+    constexpr std::array verdicts{"Bad", "Fair", "Good"};  // by the judgement
+    constexpr std::array tones{Tone::Bad, Tone::Plain, Tone::Good};
     ExactDayPage::Lane chogadiyas{words.Word("Chogadiya"), {}, 1, true}, horas{words.Word("Hora"), {}, 1, false};
     for (const DayPart &part : day.chogadiyas) {
-      const bool good = Periods::IsGoodChogadiya(part.type);
+      const auto judgement = static_cast<size_t>(Periods::ChogadiyaJudgement(part.type));
       const QString name = words.Chogadiya(part.type);
       AddBar(chogadiyas, part.begins, part.ends, {name, name.left(2), name.left(1)},
-             QStringLiteral("%1 %2, %3").arg(name, words.Range(part.begins, part.ends, day.date), words.Word(good ? "Good" : "Bad")),
-             good ? Tone::Good : Tone::Bad);
+             QStringLiteral("%1 %2, %3").arg(name, words.Range(part.begins, part.ends, day.date), words.Word(verdicts[judgement])),
+             tones[judgement]);
     }
     for (const DayPart &part : day.horas)
       AddBar(horas, part.begins, part.ends, {words.HoraLord(part.type), words.HoraLordShort(part.type)},

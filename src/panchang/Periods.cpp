@@ -145,9 +145,11 @@ std::vector<DayPart> Horas(int weekday, const std::optional<Stretch> &day, const
   return parts;
 }
 
-bool IsGoodChogadiya(int type) {
-  constexpr std::array<bool, 8> good{false, false, true, true, true, false, true, false};  // Udveg Chara Laabh Amrit Kaal Shubh Rog
-  return type >= 1 && type <= 7 && good[static_cast<size_t>(type)];
+Judgement ChogadiyaJudgement(int type) {
+  using enum Judgement;
+  constexpr std::array<Judgement, 7> judgements{Bad, Fair, Good, Good, Bad, Good, Bad};  // Udveg Chara Laabh Amrit Kaal Shubh Rog
+  SubscriptError::Check("chogadiya", type, 1, 7);
+  return judgements[static_cast<size_t>(type - 1)];
 }
 
 }  // namespace Periods

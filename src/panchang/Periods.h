@@ -52,6 +52,8 @@ std::vector<DayPart> Chogadiyas(int weekday, const std::optional<Stretch> &day, 
 // Twelve horas each of day and night: they are as long as the season makes them.
 std::vector<DayPart> Horas(int weekday, const std::optional<Stretch> &day, const std::optional<Stretch> &night);
 
-bool IsGoodChogadiya(int type);  // Amrit, Shubh, Laabh and Chara
+enum class Judgement { Bad, Fair, Good };
+// Amrit, Shubh and Laabh are good; Chara, which moves, is fair. type: 1 Udveg to 7 Rog. Throws SubscriptError.
+Judgement ChogadiyaJudgement(int type);
 
 }  // namespace Periods

@@ -8,25 +8,23 @@
 #include "analysis/SelvaniDailyMod.h"
 #include "content/pages/ExactSpan.h"
 #include "content/pages/PeriodClock.h"
+#include "panchang/Periods.h"
 
 namespace {
 
-enum Column { Name, Verdict, Time, Mark };
+enum Column { Name, Judged, Time, Mark };
 
-struct Judgement {
+struct Verdict {
   CaptionTable::Tone tone;
+  SpanStrip::Tone span;
   const char *word;
 };
 
-// By the type: Udveg, Chara, Laabh, Amrit, Kaal, Shubh, Rog.
-constexpr Judgement Judgements[7] = {
-    {CaptionTable::Tone::Bad, QT_TRANSLATE_NOOP("ChogadiyaView", "bad")},
-    {CaptionTable::Tone::Fair, QT_TRANSLATE_NOOP("ChogadiyaView", "fair")},
-    {CaptionTable::Tone::Good, QT_TRANSLATE_NOOP("ChogadiyaView", "good")},
-    {CaptionTable::Tone::Good, QT_TRANSLATE_NOOP("ChogadiyaView", "good")},
-    {CaptionTable::Tone::Bad, QT_TRANSLATE_NOOP("ChogadiyaView", "bad")},
-    {CaptionTable::Tone::Good, QT_TRANSLATE_NOOP("ChogadiyaView", "good")},
-    {CaptionTable::Tone::Bad, QT_TRANSLATE_NOOP("ChogadiyaView", "bad")},
+// By the judgement: bad, fair, good.
+constexpr Verdict Verdicts[3] = {
+    {CaptionTable::Tone::Bad, SpanStrip::Tone::Bad, QT_TRANSLATE_NOOP("ChogadiyaView", "bad")},
+    {CaptionTable::Tone::Fair, SpanStrip::Tone::Plain, QT_TRANSLATE_NOOP("ChogadiyaView", "fair")},
+    {CaptionTable::Tone::Good, SpanStrip::Tone::Good, QT_TRANSLATE_NOOP("ChogadiyaView", "good")},
 };
 
 }  // namespace
@@ -63,19 +61,17 @@ void ChogadiyaView::Fill(SelvaniDailyMod &session) {
   for (int row = 0; row < static_cast<int>(page.rows.size()); ++row) {
     const auto i = static_cast<size_t>(row);
     const ChogadiyaPage::Row &period = page.rows[i];
-    const Judgement &judgement = Judgements[static_cast<size_t>(period.type - 1)];
+    const Verdict &verdict = Verdicts[static_cast<size_t>(Periods::ChogadiyaJudgement(period.type))];
     CaptionTable &table = TableOf(row);
     table.Cell(RowOf(row), Name).setText(page.lblChogName[i]);
-    table.Cell(RowOf(row), Verdict).setText(tr(judgement.word));
-    table.SetTone(RowOf(row), Verdict, judgement.tone);
+    table.Cell(RowOf(row), Judged).setText(tr(verdict.word));
+    table.SetTone(RowOf(row), Judged, verdict.tone);
     table.Cell(RowOf(row), Time).setText(page.lblChogTime[i]);
     const double endClock = period.startClock + period.span;
     const double begins = page.exact ? period.begins : place;
     const double ends = page.exact ? period.ends : place + PeriodClock::Minutes(period.startClock, endClock);
     place = ends;
-    const bool good = judgement.tone == CaptionTable::Tone::Good, bad = judgement.tone == CaptionTable::Tone::Bad;
-    const SpanStrip::Tone tone = good ? SpanStrip::Tone::Good : bad ? SpanStrip::Tone::Bad : SpanStrip::Tone::Plain;
-    if (begins < ends || !page.exact) day.parts.push_back({begins, ends, page.lblChogName[i], tone, page.lblChogName[i].left(2)});
+    if (begins < ends || !page.exact) day.parts.push_back({begins, ends, page.lblChogName[i], verdict.span, page.lblChogName[i].left(2)});
     if (!page.exact && !before && running < 0 && PeriodClock::Holds(period.startClock, endClock, moment.time())) running = row;
   }
   if (!page.exact) {
