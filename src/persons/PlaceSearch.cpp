@@ -143,7 +143,7 @@ PlaceSearch::PlaceSearch(std::shared_ptr<Database> personDb) : db(std::move(pers
       countryNames << country;
     }
     entry.country = *known;
-    entry.population = query.value(3).toLongLong();
+    entry.population = std::max<qlonglong>(0, query.value(3).toLongLong());
 
     const int index = static_cast<int>(entries.size());
     const QString folded = Fold(entry.city);
