@@ -642,11 +642,17 @@ void frmEditLongLat::SaveOptions() {
     fault->show();
     return;
   }
-  if (ayanamshas->checkedId() >= 0) userSettings.SetIntValue(SettingKeys::AyanType, ayanamshas->checkedId());
-  if (nodes->checkedId() >= 0) userSettings.SetIntValue(SettingKeys::RahuKetuMode, nodes->checkedId());
-  userSettings.SetIntValue(SettingKeys::DayDivisions, dayDivisions->checkedId());
-  userSettings.SetIntValue(SettingKeys::SunriseRule, sunriseRules->checkedId());
-  userSettings.SetValue(SettingKeys::CustAyan, txtCustAyan->text().trimmed());
+  std::vector<UserSettings::Change> changes{{SettingKeys::DayDivisions, dayDivisions->checkedId()},
+                                            {SettingKeys::SunriseRule, sunriseRules->checkedId()},
+                                            {SettingKeys::CustAyan, txtCustAyan->text().trimmed()}};
+  if (ayanamshas->checkedId() >= 0) changes.emplace_back(SettingKeys::AyanType, ayanamshas->checkedId());
+  if (nodes->checkedId() >= 0) changes.emplace_back(SettingKeys::RahuKetuMode, nodes->checkedId());
+  try {
+    userSettings.SetAll(changes);
+  } catch (const StoreError &) {
+    emit CalculationChanged();  // they hold for this run all the same, and charts that are made from now on follow them
+    throw;
+  }
   emit CalculationChanged();
 }
 
