@@ -112,6 +112,14 @@ TEST_F(SettingsTest, AnIniWriteChangesOneLine) {
   after.append("\r\n[Third]\r\nNew=1\r\n");
   EXPECT_EQ(ReadWholeFile(paths.IniPath()).toStdString(), after.toStdString());
 
+  // A value that stands there already is no write, and the file is not made anew.
+  const QDateTime longAgo = QDateTime::fromSecsSinceEpoch(1000000000, Qt::UTC);
+  QFile file(paths.IniPath());
+  ASSERT_TRUE(file.open(QIODevice::ReadWrite) && file.setFileTime(longAgo, QFileDevice::FileModificationTime));
+  file.close();
+  ini.WriteIniString("lastPerson", " O'Brien = 1\r\n");
+  EXPECT_EQ(QFileInfo(paths.IniPath()).lastModified(), longAgo);
+
   ini.WriteIniString("Long", QString(300, 'x'));
   EXPECT_EQ(ini.GetIniString("Long", "").size(), 255);
   EXPECT_THROW(ini.WriteIniString("a=b", "1"), UsageError);
