@@ -108,12 +108,12 @@ frmManageUsers::frmManageUsers(std::shared_ptr<Database> personDb, const QString
   ReloadPlaces();
   birth->ListCountry(HomeCountry);
   residence->ListCountry(HomeCountry);
+  seenVersion = store.DataVersion();
   FillPersons();
   if (names->rowCount() > 0)
     ChooseRow(0);
   else
     AddUser();
-  seenVersion = store.DataVersion();
 }
 
 frmManageUsers::~frmManageUsers() = default;
@@ -542,11 +542,19 @@ bool frmManageUsers::event(QEvent *event) {
 }
 
 void frmManageUsers::FollowOthers() {
-  const auto now = store.DataVersion();
-  if (std::exchange(seenVersion, now) == now) return;
-  FillPersons();
-  const std::optional<PersonRecord> stored = store.Find(chosen);
-  if (!HasUnsaved() && seen && stored && *stored != *seen) ShowPerson(*stored);
+  try {
+    const auto now = store.DataVersion();
+    if (seenVersion != now) {
+      FillPersons();
+      const std::optional<PersonRecord> stored = store.Find(chosen);
+      if (!HasUnsaved() && seen && stored && *stored != *seen) ShowPerson(*stored);
+      seenVersion = now;  // last: what could not be read is read the next time
+    }
+    isFaultTold = false;
+  } catch (const Error &) {
+    // The box that tells it brings the screen to the front again as it closes, so a fault that lasts is told once.
+    if (!std::exchange(isFaultTold, true)) throw;
+  }
 }
 
 void frmManageUsers::DeleteUser() {

@@ -99,6 +99,7 @@ class frmManageUsers : public QDialog {
   QString chosen;                    // the stored name of the person on the screen; empty for a new one
   std::optional<PersonRecord> seen;  // that person as the store held it then
   std::pair<qlonglong, qlonglong> seenVersion;
-  QStringList saved;  // the form as it was last loaded or saved
+  bool isFaultTold = false;  // of following other windows
+  QStringList saved;         // the form as it was last loaded or saved
   bool warnedOfLoss = false;
 };
