@@ -222,7 +222,7 @@ PlaceSearch::Found PlaceSearch::LoadHit(const Hit &hit, bool ofCountry) const {
   Found found;
   found.place = Load(entries[static_cast<std::size_t>(hit.entry)].row).value_or(Place());
   found.byStart = hit.kind == Key::Kind::Name;
-  found.ofCountry = ofCountry;
+  found.completes = ofCountry && hit.kind != Key::Kind::Inside;
   found.isAlone = IsAlone(hit.entry);
   return found;
 }
@@ -253,11 +253,12 @@ std::vector<PlaceSearch::Found> PlaceSearch::Find(const QString &typed, const QS
 }
 
 std::optional<PlaceSearch::Found> PlaceSearch::First(const QString &typed, const QString &country) const {
-  const int index = country.trimmed().isEmpty() ? -1 : CountryIndex(country.trimmed());
-  if (!country.trimmed().isEmpty() && index < 0) return std::nullopt;
-  for (const Hit &hit : Hits(Fold(typed), index, false, 1))
-    if (hit.kind != Key::Kind::Inside) return LoadHit(hit, true);
-  return std::nullopt;
+  return FirstOf(Find(typed, country, 1));
+}
+
+std::optional<PlaceSearch::Found> PlaceSearch::FirstOf(const std::vector<Found> &found) {
+  const auto first = std::find_if(found.begin(), found.end(), [](const Found &one) { return one.completes; });
+  return first == found.end() ? std::nullopt : std::optional(*first);
 }
 
 std::optional<Place> PlaceSearch::At(const QString &city, const QString &country, int arcMinutesNorth, int arcMinutesEast) const {
