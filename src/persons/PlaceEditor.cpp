@@ -339,6 +339,3 @@ void PlaceEditor::SetTexts(const QStringList &texts) {
   ClearFaults();
   ShowClock();
 }
-
-QWidget *PlaceEditor::FirstField() const { return country; }
-QWidget *PlaceEditor::LastField() const { return longitude.hemisphere; }

@@ -46,9 +46,6 @@ class PlaceEditor : public QWidget {
   QStringList Texts() const;
   void SetTexts(const QStringList &texts);
 
-  QWidget *FirstField() const;
-  QWidget *LastField() const;
-
  signals:
   void Changed();
 

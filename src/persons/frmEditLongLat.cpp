@@ -412,11 +412,6 @@ void frmEditLongLat::FillCityList() {
   cmbCityList->ListCountry(QString());
 }
 
-void frmEditLongLat::PlacesAreChanged() {
-  FillCityList();
-  emit PlacesChanged();
-}
-
 void frmEditLongLat::ShowCity(const Place &place) {
   cityRow = place.row;
   seenCity = place;
@@ -497,12 +492,12 @@ void frmEditLongLat::SaveCity() {
   }
   cmdSave->setEnabled(false);
   bar->Clear();
-  PlacesAreChanged();
+  FillCityList();
   if (const auto now = places->Load(*row)) ShowCity(*now);
   if (before.IsEmpty()) return;
   bar->Offer(tr("%1 is changed.").arg(place.City), tr("&Undo"), [this, before, row = *row] {
     store.GoBackTo(before);
-    PlacesAreChanged();
+    FillCityList();
     if (const auto now = places->Load(row)) {
       cmbCityList->ShowCity(now->City);
       ShowCity(*now);
@@ -524,13 +519,13 @@ void frmEditLongLat::DeleteCity() {
     return;
   }
   cmdSave->setEnabled(false);
-  PlacesAreChanged();
+  FillCityList();
   AddCity();
   cmdSave->setEnabled(false);
   lblCityNote->clear();
   bar->Offer(tr("%1 is deleted.").arg(name), tr("&Undo"), [this, kept, shown] {
     store.Restore(kept);
-    PlacesAreChanged();
+    FillCityList();
     if (shown) {
       cmbCityList->ShowCity(shown->City);
       ShowCity(*shown);
@@ -587,7 +582,7 @@ void frmEditLongLat::SaveCountry() {
   FillCountryLists();
   ShowCountry(name);
   bar->Clear();
-  PlacesAreChanged();
+  FillCityList();
   if (before.IsEmpty()) return;
   const QString done = isAdded ? tr("%1 was in the list already and is changed.") : tr("%1 is changed.");
   bar->Offer(done.arg(name), tr("&Undo"), [this, before, former] {
@@ -595,7 +590,7 @@ void frmEditLongLat::SaveCountry() {
     FillCountryLists();
     const int listed = cboCNTRY->findText(former, Qt::MatchFixedString);
     ShowCountry(listed < 0 ? former : cboCNTRY->itemText(listed));  // in its own letters
-    PlacesAreChanged();
+    FillCityList();
   });
 }
 
@@ -609,12 +604,12 @@ void frmEditLongLat::DeleteCountry() {
   FillCountryLists();
   AddCountry();
   cmdCSave->setEnabled(false);
-  PlacesAreChanged();
+  FillCityList();
   bar->Offer(tr("%1 is deleted.").arg(name), tr("&Undo"), [this, kept, name] {
     store.Restore(kept);
     FillCountryLists();
     ShowCountry(name);
-    PlacesAreChanged();
+    FillCityList();
   });
 }
 

@@ -33,7 +33,6 @@ class frmEditLongLat : public QDialog {
   ~frmEditLongLat() override;
 
  signals:
-  void PlacesChanged();
   void CalculationChanged();  // ayanamsha, node or the times of day were saved: charts must be made anew
 
  protected:
@@ -65,7 +64,6 @@ class frmEditLongLat : public QDialog {
   void SaveDetails();
   void CheckAngle(QLineEdit *field);
   void Guard(const std::function<void()> &work);
-  void PlacesAreChanged();
   void TellNotSaved(const QString &name);
 
   std::shared_ptr<Database> db;

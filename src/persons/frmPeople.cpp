@@ -104,8 +104,6 @@ void frmPeople::SetCurrent(const QString &name) {
   Narrow(txtFind->text());
 }
 
-void frmPeople::SetManageVisible(bool visible) { cmdManage->setVisible(visible); }
-
 void frmPeople::Narrow(const QString &typed) {
   const QString part = typed.trimmed();
   shown->setFilterFixedString(part);

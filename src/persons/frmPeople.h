@@ -26,7 +26,6 @@ class frmPeople : public DropDown {
   void SetNames(const QStringList &names);
   // The person who is marked when the list opens.
   void SetCurrent(const QString &name);
-  void SetManageVisible(bool visible);
 
  signals:
   void Chosen(const QString &name);
