@@ -84,11 +84,6 @@ QString Position(const Place &place) {
 
 QString WithPosition(const QString &label, const Place &place) { return QStringLiteral("%1 (%2)").arg(label, Position(place)); }
 
-int SignedArcMinutes(const QString &stored, bool negative) {
-  const auto angle = PersonFields::ReadDegrees(PersonFields::ShownDegrees(stored));
-  return angle ? (negative ? -1 : 1) * angle->ArcMinutes() : 0;
-}
-
 }  // namespace
 
 QString PlaceSearch::Fold(const QString &text) {
@@ -117,10 +112,7 @@ PlaceSearch::PlaceSearch(std::shared_ptr<Database> personDb) : db(std::move(pers
   }
 
   // A store from before the wider list has neither population nor other names.
-  QSqlQuery columns(db->Handle());
-  columns.exec(QStringLiteral("PRAGMA table_info(City)"));
-  QSet<QString> present;
-  while (columns.next()) present.insert(columns.value(1).toString().toLower());
+  const QSet<QString> present = db->Columns(QStringLiteral("City"));
   const auto orEmpty = [&](const char *column) {
     return present.contains(QLatin1String(column).toString().toLower()) ? QLatin1String(column).toString() : QStringLiteral("''");
   };
@@ -264,20 +256,34 @@ std::optional<PlaceSearch::Found> PlaceSearch::FirstOf(const std::vector<Found> 
 std::optional<Place> PlaceSearch::At(const QString &city, const QString &country, int arcMinutesNorth, int arcMinutesEast) const {
   const QString folded = Fold(city);
   const int index = CountryIndex(country.trimmed());
-  std::optional<Place> nearest;
-  double least = NearbyArcMinutes;
+  std::vector<Place> named;
   auto key = std::lower_bound(keys.begin(), keys.end(), folded, [](const Key &k, const QString &text) { return k.text < text; });
-  for (; key != keys.end() && key->text == folded; ++key) {
-    if (key->kind == Key::Kind::Inside || entries[static_cast<std::size_t>(key->entry)].country != index) continue;
-    const Place place = LoadHit({key->entry, key->kind, true}, true).place;
-    const double north = SignedArcMinutes(place.Lat, place.NOSO == QLatin1String("S")) - arcMinutesNorth;
-    const double east = SignedArcMinutes(place.Longy, place.EaWe == QLatin1String("W")) - arcMinutesEast;
-    const double distance = std::hypot(north, east);
-    if (distance > least || (nearest && distance == least)) continue;
+  for (; key != keys.end() && key->text == folded; ++key)
+    if (key->kind != Key::Kind::Inside && EntryOf(*key).country == index) named.push_back(Load(EntryOf(*key).row).value_or(Place()));
+  return Nearest(named, arcMinutesNorth, arcMinutesEast);
+}
+
+std::optional<Place> PlaceSearch::At(Database &personDb, const QString &city, const QString &country, int arcMinutesNorth,
+                                     int arcMinutesEast) {
+  // The plus keeps the engine from walking through all places of the country for one name.
+  Recordset rows =
+      personDb.OpenRecordset(QStringLiteral("SELECT rowid AS PlaceRow, * FROM City WHERE City = ? AND +Country = ?"), {city, country});
+  std::vector<Place> named;
+  for (; !rows.AtEnd(); rows.MoveNext()) named.push_back(ReadPlace(rows));
+  return Nearest(named, arcMinutesNorth, arcMinutesEast);
+}
+
+std::optional<Place> PlaceSearch::Nearest(const std::vector<Place> &places, int arcMinutesNorth, int arcMinutesEast) {
+  const Place *nearest = nullptr;
+  double least = NearbyArcMinutes;
+  for (const Place &place : places) {
+    const double distance = std::hypot(PersonFields::SignedArcMinutes(place.Lat, place.NOSO) - arcMinutesNorth,
+                                       PersonFields::SignedArcMinutes(place.Longy, place.EaWe) - arcMinutesEast);
+    if (distance >= least) continue;
     least = distance;
-    nearest = place;
+    nearest = &place;
   }
-  return nearest;
+  return nearest ? std::optional(*nearest) : std::nullopt;
 }
 
 std::vector<PlaceSearch::Listed> PlaceSearch::CitiesOf(const QString &country) const {

@@ -38,9 +38,11 @@ class PlaceSearch {
   // The place that typing completes to: the best one whose name, or other name, begins with what was typed.
   std::optional<Found> First(const QString &typed, const QString &country) const;
   static std::optional<Found> FirstOf(const std::vector<Found> &found);  // the same of an answer of Find
-  // The place of exactly this name that lies nearest, for its zone. arcMinutesNorth and arcMinutesEast are signed; places more than
-  // 2 degrees off are other places of the same name.
+  // The place of exactly this name that lies nearest, for its zone. arcMinutesNorth and arcMinutesEast are signed; places 2 degrees off
+  // and more are other places of the same name.
   std::optional<Place> At(const QString &city, const QString &country, int arcMinutesNorth, int arcMinutesEast) const;
+  // The same for a chart, which asks for one name and has not read all of them: the place's own name to the letter.
+  static std::optional<Place> At(Database &personDb, const QString &city, const QString &country, int arcMinutesNorth, int arcMinutesEast);
 
   struct Listed {
     QString city;
@@ -81,6 +83,7 @@ class PlaceSearch {
 
   void AddKey(const QString &text, int entry, Key::Kind kind);
   std::vector<Hit> Hits(const QString &folded, int country, bool elsewhere, std::size_t limit) const;
+  static std::optional<Place> Nearest(const std::vector<Place> &places, int arcMinutesNorth, int arcMinutesEast);
   int CountryIndex(const QString &name) const;  // -1 for none
   Found LoadHit(const Hit &hit, bool ofCountry) const;
   bool IsAlone(int entry) const;
