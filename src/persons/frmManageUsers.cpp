@@ -500,7 +500,7 @@ void frmManageUsers::Save() {
   }
   const bool isChosen = seen && PersonStore::IsSameName(chosen, record->Name);
   const bool isOther = !isChosen && store.Has(record->Name);
-  const auto before = isOther ? store.Snapshot() : PersonStore::Removed();
+  const auto before = isOther ? store.SnapshotOf(record->Name) : PersonStore::Removed();
   if (!store.SaveOver(*record, isOther ? store.Find(record->Name) : isChosen ? seen : std::nullopt)) {
     TellOfOtherSave(record->Name);
     return;
