@@ -203,7 +203,7 @@ PersonStore::Outcome PersonStore::Write(const PersonRecord &record, Extent exten
   const bool isWhole = extent == Extent::Whole;
   const QVariant name = isWhole ? StoredName(record) : QVariant(record.Name.trimmed());
   if (name.toString().trimmed().isEmpty() && !(isWhole && record.odd.contains(QStringLiteral("Name"))))
-    throw UsageError(QStringLiteral("Please enter a name."));
+    throw UsageError(tr("Please enter a name."));
   const auto oddOr = [&](const QString &column, const QVariant &value) { return isWhole ? record.odd.value(column, value) : value; };
 
   const QString ofName = QStringLiteral(" WHERE Name IS ? ORDER BY rowid");

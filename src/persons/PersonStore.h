@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #pragma once
 
+#include <QCoreApplication>
 #include <QHash>
 #include <QStringList>
 #include <memory>
@@ -15,6 +16,8 @@
 // The persons with their residences, which lie in two files. Every change is one transaction over both: after a fault, a full disk or
 // the end of the program in the middle of it, both hold the old person or both hold the new one.
 class PersonStore {
+  Q_DECLARE_TR_FUNCTIONS(PersonStore)
+
  public:
   // personDb: the open store of persons; dailyPath: the file of residences, which is attached for as long as this object lives.
   // Throws StoreError.
