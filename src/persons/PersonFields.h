@@ -8,6 +8,12 @@
 // The texts of a person's fields and the values behind them. What cannot be read is an empty answer, never a guess.
 namespace PersonFields {
 
+// What the fields of a place show where none is entered.
+inline const QString NoAngle = QStringLiteral("000:00");
+inline const QString NoDifference = QStringLiteral("+00.00");
+
+constexpr int NorthPole = 90;  // degrees
+
 struct ClockTime {
   int hour = 0;     // 0 to 23
   int minutes = 0;  // 0 to 59

@@ -15,8 +15,6 @@
 
 namespace {
 
-constexpr int NorthPole = 90;  // degrees
-
 QString tr(const char *text) { return QCoreApplication::translate("PersonsFile", text); }
 
 // One column of the table, or one name of the object: how it is read from a person and written into one.
@@ -359,6 +357,7 @@ void PersonsFile::Contents::Take(PersonRecord &&record, const QString &fault, in
     faults << tr("Line %1: %2").arg(QString::number(line), fault);
     return;
   }
+  using PersonFields::NorthPole;
   const auto isBeyond = [](const PersonPlace &place) { return place.LatDeg > NorthPole || (place.LatDeg == NorthPole && place.LatMT > 0); };
   if (isBeyond(record.birth) || (record.residence && isBeyond(*record.residence)))
     doubts << tr("Line %1 came in; its latitude is beyond 090:00.").arg(line);

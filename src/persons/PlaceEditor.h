@@ -58,7 +58,6 @@ class PlaceEditor : public QWidget {
 
   Angle MakeAngle(const char *name, const char *hemisphereName, const QStringList &letters, const QString &label);
   void AddRow(const QString &label, QWidget *field, QWidget *beside, QLabel *below);
-  QLabel *MakeFault();
   void TypedCountry(const QString &text);
   void ChoseCountry(const QString &name, const QString &difference);
   void TakePlace(const Place &place);

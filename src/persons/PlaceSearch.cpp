@@ -16,8 +16,6 @@ namespace {
 
 constexpr int NearbyArcMinutes = 120;
 
-const QString NoDifference = QStringLiteral("+00.00");
-
 // Letters that Unicode does not take apart into a letter and an accent.
 QString PlainLetter(QChar letter) {
   switch (letter.unicode()) {
@@ -107,8 +105,8 @@ PlaceSearch::PlaceSearch(std::shared_ptr<Database> personDb) : db(std::move(pers
   Recordset listed = db->OpenRecordset(QStringLiteral("SELECT * FROM Country ORDER BY Name"));
   for (; !listed.AtEnd(); listed.MoveNext()) {
     const QString difference = listed.Field(QStringLiteral("GMTDIF")).toString();
-    countries.push_back(
-        {listed.Field(QStringLiteral("Name")).toString(), difference.isEmpty() ? NoDifference : PersonFields::ShownDifference(difference)});
+    countries.push_back({listed.Field(QStringLiteral("Name")).toString(),
+                         difference.isEmpty() ? PersonFields::NoDifference : PersonFields::ShownDifference(difference)});
   }
 
   // A store from before the wider list has neither population nor other names.

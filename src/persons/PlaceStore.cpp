@@ -31,7 +31,7 @@ bool PlaceStore::HasCountry(const QString &name) const {
 QString PlaceStore::CountryDifference(const QString &name) const {
   const Recordset row = db->OpenRecordset(QStringLiteral("SELECT GMTDIF FROM Country WHERE Name = ?"), {name});
   const QString stored = row.IsEmpty() ? QString() : row.Field(QStringLiteral("GMTDIF")).toString();
-  return stored.isEmpty() ? QStringLiteral("+00.00") : PersonFields::ShownDifference(stored);
+  return stored.isEmpty() ? PersonFields::NoDifference : PersonFields::ShownDifference(stored);
 }
 
 qlonglong PlaceStore::SaveCity(const Place &place) {
