@@ -28,7 +28,8 @@ WHAT = {
 }
 # What of content/ and persons/ belongs to the screens' floor.
 SCREEN_FILES = re.compile(
-    r"content/(pages/|DropDown|SetFonts|ShellFonts|Skin|Theme|contentManager|frmSettings|Role)|persons/(frm|PlaceCombo|PlaceEditor|UndoBar)")
+    r"content/(pages/|DropDown|SetFonts|ShellFonts|Skin|Theme|contentManager|frmSettings|Role)|"
+    r"persons/(frm|FormParts|PlaceCombo|PlaceEditor|UndoBar)")
 INCLUDE = re.compile(r'^#include "([^"]+)"', re.M)
 
 

@@ -3,13 +3,11 @@
 #include "analysis/ExactSettings.h"
 
 #include <cmath>
-#include <limits>
 
 #include "engine/clsPlanets.h"
-#include "platform/Database.h"
+#include "persons/PlaceSearch.h"
 #include "platform/Errors.h"
 #include "platform/Numbers.h"
-#include "platform/Recordset.h"
 
 namespace {
 
@@ -22,41 +20,25 @@ Ephemeris::Observer ObserverOf(const clsPerson &person) {
   return {IsLetter(person.TextNS(), 'S') ? -latitude : latitude, IsLetter(person.TextEW(), 'W') ? -longitude : longitude, 0};
 }
 
-double DegreesOf(const QString &stored) {
-  const int number = stored.toInt();  // dddmm
-  return number / 100 + number % 100 / 60.0;
-}
-
 // Of several places of one name, the nearest.
-QString ZoneNameOf(const clsPerson &person, const Ephemeris::Observer &place) {
-  constexpr double nearby = 2;  // degrees: what lies farther off is another place of the name
+QString ZoneNameOf(const clsPerson &person) {
   if (!person.GetDB() || person.PLOB().isEmpty()) return {};
-  QString name;
+  const int north = person.LatDeg() * 60 + person.LatMT(), east = person.LongDeg() * 60 + person.LongMT();
   try {
-    // The plus keeps the engine from walking through all places of the country for one name.
-    Recordset rows = person.GetDB()->OpenRecordset(QStringLiteral("SELECT * FROM City WHERE City = ? AND +Country = ?"),
-                                                   {person.PLOB(), person.Country()});
-    double least = nearby;
-    for (; !rows.AtEnd() && rows.HasColumn(QStringLiteral("Zone")); rows.MoveNext()) {
-      const auto text = [&](const char *column) { return rows.Field(QLatin1String(column)).toString(); };
-      const double north = DegreesOf(text("Lat")) * (IsLetter(text("NOSO"), 'S') ? -1 : 1);
-      const double east = DegreesOf(text("Longy")) * (IsLetter(text("EaWe"), 'W') ? -1 : 1);
-      const double distance = std::hypot(north - place.latitude, east - place.longitude);
-      if (distance >= least) continue;
-      least = distance;
-      name = text("Zone");
-    }
+    const std::optional<Place> place =
+        PlaceSearch::At(*person.GetDB(), person.PLOB(), person.Country(), IsLetter(person.TextNS(), 'S') ? -north : north,
+                        IsLetter(person.TextEW(), 'W') ? -east : east);
+    return place ? place->Zone : QString();
   } catch (const StoreError &) {
-    // Without the list of places the chart's own difference holds.
+    return {};  // without the list of places the chart's own difference holds
   }
-  return name;
 }
 
-ExactZone ZoneOf(const clsPerson &person, const Ephemeris::Observer &place) {
+ExactZone ZoneOf(const clsPerson &person) {
   const double hours = TextToNumber(person.GMTDIFF(), QStringLiteral("time zone (GMTDIFF)"));
   const int minutes = static_cast<int>(std::lround(hours * 60));
   const ExactZone fixed(minutes);
-  const QString name = ZoneNameOf(person, place);
+  const QString name = ZoneNameOf(person);
   if (name.isEmpty()) return fixed;
   const ExactZone history(name, minutes);
   // A difference that the zone does not know in the year around the day is the user's own choice. Summer time may hold for eight
@@ -86,7 +68,7 @@ ExactRules ExactRulesOf(const clsPlanets &chart) {
   constexpr int upperLimb = 2;
   ExactRules rules;
   rules.place = ObserverOf(chart.clsPerson());
-  rules.zone = ZoneOf(chart.clsPerson(), rules.place);
+  rules.zone = ZoneOf(chart.clsPerson());
   if (chart.Settings().IntValue(SettingKeys::SunriseRule) == upperLimb) rules.disc = Ephemeris::DiscRule::UpperLimbRefraction;
   rules.zodiac = ZodiacOf(chart);
   return rules;

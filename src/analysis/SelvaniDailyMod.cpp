@@ -2,11 +2,14 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "analysis/SelvaniDailyMod.h"
 
+#include <QCoreApplication>
 #include <QLocale>
 
 #include "platform/Errors.h"
 
 namespace {
+
+QString tr(const char *text) { return QCoreApplication::translate("SelvaniDailyMod", text); }
 
 PlaceRecord ReadPlace(const Recordset &row) {
   const auto text = [&](const char *column) { return row.Field(QLatin1String(column)).toString(); };
@@ -50,12 +53,12 @@ SelvaniDailyMod::SelvaniDailyMod(UserSettings &userSettings, Stores openStores, 
       dashas([this]() -> const clsPlanets & { return BirthChart(); }, [this] { return TodayChart().clsPerson().GetBirthDate(); }) {}
 
 const clsPlanets &SelvaniDailyMod::BirthChart() const {
-  if (!birthChart) throw UsageError(QStringLiteral("No person is loaded yet. Choose a person first."));
+  if (!birthChart) throw UsageError(tr("No person is loaded yet. Choose a person first."));
   return *birthChart;
 }
 
 const clsPlanets &SelvaniDailyMod::TodayChart() const {
-  if (!dailySession) throw UsageError(QStringLiteral("No moment is analysed yet. Choose a person and a date first."));
+  if (!dailySession) throw UsageError(tr("No moment is analysed yet. Choose a person and a date first."));
   return dailySession->TodayChart;
 }
 
@@ -77,7 +80,7 @@ bool SelvaniDailyMod::LoadBirth(const QString &name) {
     CheckBirth(record);
     SetBirthPerson(record);
   } catch (const ConversionError &error) {
-    throw ConversionError(QStringLiteral("The birth of '%1' cannot be calculated. %2").arg(record.Name.trimmed(), error.Sentence()));
+    throw ConversionError(tr("The birth of '%1' cannot be calculated. %2").arg(record.Name.trimmed(), error.Sentence()));
   }
   return true;
 }
@@ -119,7 +122,7 @@ std::optional<PlaceRecord> SelvaniDailyMod::StoredResidence(const QString &name)
   try {
     CheckPlace(place);
   } catch (const ConversionError &error) {
-    throw StoreError(QStringLiteral("The residence of '%1' cannot be used. %2").arg(name, error.Sentence()));
+    throw StoreError(tr("The residence of '%1' cannot be used. %2").arg(name, error.Sentence()));
   }
   return place;
 }

@@ -20,12 +20,12 @@
 #include "app/Maker.h"
 #include "content/Languages.h"
 #include "engine/Ephemeris.h"
+#include "persons/PersonStore.h"
 #include "platform/AppPaths.h"
 #include "platform/DataFiles.h"
 #include "platform/Errors.h"
 #include "platform/Notices.h"
 #include "platform/Numbers.h"
-#include "platform/Recordset.h"
 #include "platform/ReportError.h"
 #include "platform/StoreKeeper.h"
 #include "platform/UserSettings.h"
@@ -81,10 +81,8 @@ std::shared_ptr<TextDb> OpenWords(const AppPaths &paths, const LanguageRow &lang
   return OpenLanguageDb(paths, language.Directory);
 }
 
-int ListPersons(Database &persons, DailyOptions::Form form) {
-  Recordset rows = persons.OpenRecordset(QStringLiteral("SELECT Name FROM Person ORDER BY Name"));
-  QStringList names;
-  for (; !rows.AtEnd(); rows.MoveNext()) names << rows.Field(QStringLiteral("Name")).toString();
+int ListPersons(const Database &persons, DailyOptions::Form form) {
+  const QStringList names = PersonStore::NamesIn(persons);
   if (form == DailyOptions::Form::Json)
     Print(QString::fromUtf8(QJsonDocument(QJsonArray::fromStringList(names)).toJson()));
   else if (!names.isEmpty())

@@ -344,12 +344,14 @@ void frmSettings::ShowStep(int step) {
 void frmSettings::Write() {
   ini.WriteIniString(QStringLiteral("DispName"), txtName->text());
   ini.WriteIniString(QStringLiteral("DispAdd"), txtAddress->text());
-  settings.SetIntValue(SettingKeys::RahuKetuMode, rahuKetu->checkedId() == 1 ? 1 : 2);
-  if (ayanamsha->checkedId() > 0) settings.SetIntValue(SettingKeys::AyanType, ayanamsha->checkedId());
-  settings.SetIntValue(SettingKeys::DayDivisions, dayDivisions->checkedId());
-  settings.SetIntValue(SettingKeys::SunriseRule, sunriseRule->checkedId());
-  // With none selected the last of the styles is meant.
-  settings.SetIntValue(SettingKeys::KundStyle, kundaliStyle->checkedId() < 0 ? SouthIndian : kundaliStyle->checkedId());
+  std::vector<UserSettings::Change> changes{
+      {SettingKeys::RahuKetuMode, rahuKetu->checkedId() == 1 ? 1 : 2},
+      {SettingKeys::DayDivisions, dayDivisions->checkedId()},
+      {SettingKeys::SunriseRule, sunriseRule->checkedId()},
+      // With none selected the last of the styles is meant.
+      {SettingKeys::KundStyle, kundaliStyle->checkedId() < 0 ? SouthIndian : kundaliStyle->checkedId()}};
+  if (ayanamsha->checkedId() > 0) changes.emplace_back(SettingKeys::AyanType, ayanamsha->checkedId());
+  settings.SetAll(changes);
 }
 
 void frmSettings::accept() {

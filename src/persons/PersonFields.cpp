@@ -66,6 +66,14 @@ QString ShownDegrees(const QString &stored) {
 
 QString StoredDegrees(const QString &shown) { return shown.left(3) + shown.right(2); }
 
+int SignedArcMinutes(const QString &dddmm, const QString &hemisphere) {
+  bool isNumber = false;
+  const int number = dddmm.toInt(&isNumber);
+  const int size = isNumber ? number / 100 * 60 + number % 100 : ReadDegrees(dddmm).value_or(Degrees()).ArcMinutes();
+  const auto is = [&](char letter) { return hemisphere.compare(QLatin1Char(letter), Qt::CaseInsensitive) == 0; };
+  return is('S') || is('W') ? -size : size;
+}
+
 std::optional<int> ReadDifference(const QString &text) {
   static const QRegularExpression form(QStringLiteral("^\\s*([+-]?)(\\d{1,2})[.:](\\d{2})\\s*$"));
   const auto match = form.match(text);

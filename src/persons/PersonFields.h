@@ -8,6 +8,12 @@
 // The texts of a person's fields and the values behind them. What cannot be read is an empty answer, never a guess.
 namespace PersonFields {
 
+// What the fields of a place show where none is entered.
+inline const QString NoAngle = QStringLiteral("000:00");
+inline const QString NoDifference = QStringLiteral("+00.00");
+
+constexpr int NorthPole = 90;  // degrees
+
 struct ClockTime {
   int hour = 0;     // 0 to 23
   int minutes = 0;  // 0 to 59
@@ -33,6 +39,9 @@ std::optional<Degrees> ReadDegrees(const QString &text);
 QString DegreesText(int degrees, int minutes);  // "027:09"
 QString ShownDegrees(const QString &stored);    // "02709" -> "027:09"; another text stays as it is
 QString StoredDegrees(const QString &shown);    // the first three characters and the last two: "027:09" -> "02709"
+
+// A stored angle with its hemisphere as one number of minutes: south and west, in small letters too, are below 0. 0 for what is no angle.
+int SignedArcMinutes(const QString &dddmm, const QString &hemisphere);
 
 // Minutes ahead of Greenwich from hours.minutes with two digits of minutes: "+05.30", "-3.30", "5:30". Up to 15.59 either way, since
 // local times before the date line was agreed on went so far.

@@ -101,10 +101,10 @@ PersonStore::~PersonStore() {
   }
 }
 
-QStringList PersonStore::Names() const {
-  QSqlQuery query(db->Handle());
+QStringList PersonStore::NamesIn(const Database &personDb) {
+  QSqlQuery query(personDb.Handle());
   query.setForwardOnly(true);
-  if (!query.exec(QStringLiteral("SELECT Name FROM main.Person") + ByName)) throw db->Failure(query);
+  if (!query.exec(QStringLiteral("SELECT Name FROM main.Person") + ByName)) throw personDb.Failure(query);
   QStringList names;
   while (query.next()) names << query.value(0).toString();
   return names;
@@ -203,7 +203,7 @@ PersonStore::Outcome PersonStore::Write(const PersonRecord &record, Extent exten
   const bool isWhole = extent == Extent::Whole;
   const QVariant name = isWhole ? StoredName(record) : QVariant(record.Name.trimmed());
   if (name.toString().trimmed().isEmpty() && !(isWhole && record.odd.contains(QStringLiteral("Name"))))
-    throw UsageError(QStringLiteral("Please enter a name."));
+    throw UsageError(tr("Please enter a name."));
   const auto oddOr = [&](const QString &column, const QVariant &value) { return isWhole ? record.odd.value(column, value) : value; };
 
   const QString ofName = QStringLiteral(" WHERE Name IS ? ORDER BY rowid");
@@ -285,6 +285,11 @@ void PersonStore::Restore(const Removed &removed) {
 PersonStore::Removed PersonStore::Snapshot() const {
   return {QString(), RowsKept::Copy(*db, QStringLiteral("main.Person"), QStringLiteral("1"), {}),
           RowsKept::Copy(*db, Residences(), QStringLiteral("1"), {})};
+}
+
+PersonStore::Removed PersonStore::SnapshotOf(const QString &name) const {
+  return {name, RowsKept::Copy(*db, QStringLiteral("main.Person"), QStringLiteral("Name IS ?"), {name}),
+          RowsKept::Copy(*db, Residences(), QStringLiteral("Name IS ?"), {name})};
 }
 
 QVariantList PersonStore::NamesOf(const std::vector<PersonRecord> &records) {

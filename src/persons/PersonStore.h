@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #pragma once
 
+#include <QCoreApplication>
 #include <QHash>
 #include <QStringList>
 #include <memory>
@@ -15,6 +16,8 @@
 // The persons with their residences, which lie in two files. Every change is one transaction over both: after a fault, a full disk or
 // the end of the program in the middle of it, both hold the old person or both hold the new one.
 class PersonStore {
+  Q_DECLARE_TR_FUNCTIONS(PersonStore)
+
  public:
   // personDb: the open store of persons; dailyPath: the file of residences, which is attached for as long as this object lives.
   // Throws StoreError.
@@ -24,7 +27,8 @@ class PersonStore {
   PersonStore &operator=(const PersonStore &) = delete;
 
   // All names in order; two persons of one name are two entries.
-  QStringList Names() const;
+  QStringList Names() const { return NamesIn(*db); }
+  static QStringList NamesIn(const Database &personDb);
   // The person at a place of that list, 0-based; nothing outside it. Two persons of one name share the first residence.
   std::optional<PersonRecord> At(int position) const;
   std::optional<PersonRecord> Find(const QString &name) const;  // the first of that name
@@ -35,9 +39,10 @@ class PersonStore {
   // residence of that name.
   std::vector<PersonRecord> All() const;
 
-  // Whether the name was new. What is kept from the stored person on an edit: sex and time correction.
+  // Whether the name was new.
   enum class Outcome { Added, Changed };
-  // Writes the first person of the name, or a new one, with the residence. The name is kept without blanks around it.
+  // Writes the first person of the name, or a new one, with the residence. The name is kept without blanks around it; a stored person's
+  // sex and time correction stay.
   // Throws StoreError; nothing is changed then. Throws UsageError for a name that is empty or blank.
   Outcome Save(const PersonRecord &record);
   // The same where nobody has changed the person since `seen` was read, which is nothing for a new name; nothing otherwise, and the store
@@ -61,8 +66,9 @@ class PersonStore {
   Removed Delete(const QString &name);
   void Restore(const Removed &removed);
 
-  // Everything as it lies now, to go back to after a list of persons came in.
+  // Everything as it lies now, to go back to after a list of persons came in; or what is of one name, after that was saved.
   Removed Snapshot() const;
+  Removed SnapshotOf(const QString &name) const;
   // Only these names go back: what another program has saved of others since stays.
   void GoBackTo(const Removed &snapshot, const QVariantList &names);
   // The names under which records are written, those of their residences too.

@@ -15,8 +15,6 @@
 
 namespace {
 
-constexpr int NorthPole = 90;  // degrees
-
 QString tr(const char *text) { return QCoreApplication::translate("PersonsFile", text); }
 
 // One column of the table, or one name of the object: how it is read from a person and written into one.
@@ -359,6 +357,7 @@ void PersonsFile::Contents::Take(PersonRecord &&record, const QString &fault, in
     faults << tr("Line %1: %2").arg(QString::number(line), fault);
     return;
   }
+  using PersonFields::NorthPole;
   const auto isBeyond = [](const PersonPlace &place) { return place.LatDeg > NorthPole || (place.LatDeg == NorthPole && place.LatMT > 0); };
   if (isBeyond(record.birth) || (record.residence && isBeyond(*record.residence)))
     doubts << tr("Line %1 came in; its latitude is beyond 090:00.").arg(line);
@@ -387,18 +386,21 @@ QByteArray PersonsFile::Write(const std::vector<PersonRecord> &persons, Format f
     }
     return text + "\n]}\n";
   }
-  const bool hasOdd = std::any_of(persons.begin(), persons.end(), [](const PersonRecord &one) { return !AsStoredText(one).isEmpty(); });
+  QByteArrayList asStored;
+  for (const PersonRecord &person : persons) asStored << AsStoredText(person);
+  const bool hasOdd = std::any_of(asStored.begin(), asStored.end(), [](const QByteArray &one) { return !one.isEmpty(); });
   QStringList heading;
   for (const Field &field : PersonColumns) heading << QLatin1String(field.name);
   for (const Field &field : ResidenceColumns) heading << QLatin1String(field.name);
   if (hasOdd) heading << AsStored;
   // The mark at the start tells table programs that the text is UTF-8.
   QByteArray text = "\xEF\xBB\xBF" + heading.join(u',').toUtf8() + "\r\n";
-  for (const PersonRecord &person : persons) {
+  for (std::size_t i = 0; i < persons.size(); ++i) {
+    const PersonRecord &person = persons[i];
     QStringList cells;
     for (const Field &field : PersonColumns) cells << Quoted(CellText(person, field));
     for (const Field &field : ResidenceColumns) cells << (person.residence ? Quoted(CellText(person, field)) : QString());
-    if (hasOdd) cells << Quoted(QString::fromUtf8(AsStoredText(person)));
+    if (hasOdd) cells << Quoted(QString::fromUtf8(asStored[static_cast<qsizetype>(i)]));
     text += cells.join(u',').toUtf8() + "\r\n";
   }
   return text;

@@ -133,15 +133,16 @@ void PlaceCombo::Typed(const QString &text) {
   if (!search) return;
   QAbstractItemView &rows = *lineEdit()->completer()->popup();
   int room = 0;
-  for (const PlaceSearch::Found &found : search->Find(text, country, MostSuggestions)) {
-    auto *item = new QStandardItem(found.Label());
-    item->setData(found.place.City, CityName);
-    item->setData(found.place.row, RowNumber);
+  const std::vector<PlaceSearch::Found> found = search->Find(text, country, MostSuggestions);
+  for (const PlaceSearch::Found &one : found) {
+    auto *item = new QStandardItem(one.Label());
+    item->setData(one.place.City, CityName);
+    item->setData(one.place.row, RowNumber);
     suggestions->appendRow(item);
     room = std::max(room, RoomFor(rows, item->text()));
   }
   rows.setMinimumWidth(room);
-  const auto first = search->First(text, country);
+  const auto first = PlaceSearch::FirstOf(found);
   if (!first) {
     emit Unmatched();
     return;

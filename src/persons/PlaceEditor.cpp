@@ -13,21 +13,16 @@
 #include "content/ShellFonts.h"
 #include "content/Theme.h"
 #include "persons/ClockHistory.h"
+#include "persons/FormParts.h"
 #include "persons/PersonFields.h"
 #include "persons/PlaceCombo.h"
 
-namespace {
+using namespace FormParts;
 
-const QString NoAngle = QStringLiteral("000:00");
-constexpr int NorthPole = 90;
+namespace {
 
 void SelectLetter(QComboBox &box, const QString &letter) {
   box.setCurrentIndex(letter.compare(box.itemText(1), Qt::CaseInsensitive) == 0 ? 1 : 0);
-}
-
-void Say(QLabel &label, const QString &sentence) {
-  label.setText(sentence);
-  label.setVisible(!sentence.isEmpty());
 }
 
 }  // namespace
@@ -62,7 +57,7 @@ PlaceEditor::PlaceEditor(const Names &names, const QString &what, QWidget *paren
   difference->setObjectName(QLatin1String(names.difference));
   difference->setAccessibleName(tr("Time difference from GMT, place of %1, as +hours.minutes").arg(what));
   difference->setToolTip(tr("Enter the hours and minutes ahead of Greenwich, as +05.30; behind it with a minus sign."));
-  differenceFault = MakeFault();
+  differenceFault = MakeFault(QLatin1String(names.difference));
   takeClock = new QPushButton;
   takeClock->setObjectName(QStringLiteral("cmdUse_") + QLatin1String(names.difference));
   takeClock->setAutoDefault(false);
@@ -117,36 +112,22 @@ PlaceEditor::PlaceEditor(const Names &names, const QString &what, QWidget *paren
     emit Changed();
     difference->setFocus();
   });
-  Empty(QStringLiteral("+00.00"));
-}
-
-QLabel *PlaceEditor::MakeFault() {
-  auto *fault = new QLabel;
-  fault->setProperty("role", "bad");
-  fault->setWordWrap(true);
-  fault->setFont(ShellFonts().SmallFont());
-  fault->hide();
-  return fault;
+  Empty(PersonFields::NoDifference);
 }
 
 void PlaceEditor::AddRow(const QString &label, QWidget *field, QWidget *beside, QLabel *below) {
   auto *grid = static_cast<QGridLayout *>(layout());
   const int row = grid->rowCount();
-  auto *caption = new QLabel(label);
-  caption->setProperty("role", "caption");
-  caption->setBuddy(field);
+  QLabel *caption = MakeLabel(label, "caption", field);
   caption->setMinimumWidth(caption->fontMetrics().horizontalAdvance(QStringLiteral("GMT difference")) + Grid::Gap);
   grid->addWidget(caption, row, 0);
   grid->addWidget(field, row, 1, 1, beside ? 1 : 2);
   if (beside) grid->addWidget(beside, row, 2);
-  if (below) {
-    below->setObjectName(QStringLiteral("fault_") + field->objectName());
-    grid->addWidget(below, row + 1, 1, 1, 2);
-  }
+  if (below) grid->addWidget(below, row + 1, 1, 1, 2);
 }
 
 PlaceEditor::Angle PlaceEditor::MakeAngle(const char *name, const char *hemisphereName, const QStringList &letters, const QString &label) {
-  Angle angle{new QLineEdit, new QComboBox, MakeFault()};
+  Angle angle{new QLineEdit, new QComboBox, MakeFault(QLatin1String(name))};
   angle.edit->setObjectName(QLatin1String(name));
   angle.hemisphere->setObjectName(QLatin1String(hemisphereName));
   angle.hemisphere->addItems(letters);
@@ -206,7 +187,7 @@ void PlaceEditor::TakePlace(const Place &place) {
 
 void PlaceEditor::TakeNoPlace() {
   for (const Angle *angle : {&latitude, &longitude}) {
-    angle->edit->setText(NoAngle);
+    angle->edit->setText(PersonFields::NoAngle);
     angle->hemisphere->setCurrentIndex(0);
     Say(*angle->fault, QString());
   }
@@ -236,7 +217,7 @@ void PlaceEditor::ClearFaults() {
 // A latitude is let pass up to 180, as that of a city is; beyond the pole it is most likely a slip of the pen.
 void PlaceEditor::DoubtLatitude() {
   const auto north = PersonFields::ReadDegrees(latitude.edit->text());
-  if (!north || north->ArcMinutes() <= NorthPole * 60) return;
+  if (!north || north->ArcMinutes() <= PersonFields::NorthPole * 60) return;
   SetRole(*latitude.fault, "warn");
   Say(*latitude.fault, tr("No place on the earth lies beyond 090:00. Please check."));
 }
@@ -277,7 +258,8 @@ std::optional<PersonPlace> PlaceEditor::Read() {
 }
 
 bool PlaceEditor::IsNowhere() const {
-  return city->currentText().trimmed().isEmpty() && latitude.edit->text() == NoAngle && longitude.edit->text() == NoAngle;
+  return city->currentText().trimmed().isEmpty() && latitude.edit->text() == PersonFields::NoAngle &&
+         longitude.edit->text() == PersonFields::NoAngle;
 }
 
 void PlaceEditor::SetMoment(const QDate &day, const QTime &clockTime) {
@@ -339,6 +321,3 @@ void PlaceEditor::SetTexts(const QStringList &texts) {
   ClearFaults();
   ShowClock();
 }
-
-QWidget *PlaceEditor::FirstField() const { return country; }
-QWidget *PlaceEditor::LastField() const { return longitude.hemisphere; }

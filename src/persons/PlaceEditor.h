@@ -46,9 +46,6 @@ class PlaceEditor : public QWidget {
   QStringList Texts() const;
   void SetTexts(const QStringList &texts);
 
-  QWidget *FirstField() const;
-  QWidget *LastField() const;
-
  signals:
   void Changed();
 
@@ -61,7 +58,6 @@ class PlaceEditor : public QWidget {
 
   Angle MakeAngle(const char *name, const char *hemisphereName, const QStringList &letters, const QString &label);
   void AddRow(const QString &label, QWidget *field, QWidget *beside, QLabel *below);
-  QLabel *MakeFault();
   void TypedCountry(const QString &text);
   void ChoseCountry(const QString &name, const QString &difference);
   void TakePlace(const Place &place);

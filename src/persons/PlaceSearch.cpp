@@ -16,8 +16,6 @@ namespace {
 
 constexpr int NearbyArcMinutes = 120;
 
-const QString NoDifference = QStringLiteral("+00.00");
-
 // Letters that Unicode does not take apart into a letter and an accent.
 QString PlainLetter(QChar letter) {
   switch (letter.unicode()) {
@@ -84,11 +82,6 @@ QString Position(const Place &place) {
 
 QString WithPosition(const QString &label, const Place &place) { return QStringLiteral("%1 (%2)").arg(label, Position(place)); }
 
-int SignedArcMinutes(const QString &stored, bool negative) {
-  const auto angle = PersonFields::ReadDegrees(PersonFields::ShownDegrees(stored));
-  return angle ? (negative ? -1 : 1) * angle->ArcMinutes() : 0;
-}
-
 }  // namespace
 
 QString PlaceSearch::Fold(const QString &text) {
@@ -112,15 +105,12 @@ PlaceSearch::PlaceSearch(std::shared_ptr<Database> personDb) : db(std::move(pers
   Recordset listed = db->OpenRecordset(QStringLiteral("SELECT * FROM Country ORDER BY Name"));
   for (; !listed.AtEnd(); listed.MoveNext()) {
     const QString difference = listed.Field(QStringLiteral("GMTDIF")).toString();
-    countries.push_back(
-        {listed.Field(QStringLiteral("Name")).toString(), difference.isEmpty() ? NoDifference : PersonFields::ShownDifference(difference)});
+    countries.push_back({listed.Field(QStringLiteral("Name")).toString(),
+                         difference.isEmpty() ? PersonFields::NoDifference : PersonFields::ShownDifference(difference)});
   }
 
   // A store from before the wider list has neither population nor other names.
-  QSqlQuery columns(db->Handle());
-  columns.exec(QStringLiteral("PRAGMA table_info(City)"));
-  QSet<QString> present;
-  while (columns.next()) present.insert(columns.value(1).toString().toLower());
+  const QSet<QString> present = db->Columns(QStringLiteral("City"));
   const auto orEmpty = [&](const char *column) {
     return present.contains(QLatin1String(column).toString().toLower()) ? QLatin1String(column).toString() : QStringLiteral("''");
   };
@@ -222,7 +212,7 @@ PlaceSearch::Found PlaceSearch::LoadHit(const Hit &hit, bool ofCountry) const {
   Found found;
   found.place = Load(entries[static_cast<std::size_t>(hit.entry)].row).value_or(Place());
   found.byStart = hit.kind == Key::Kind::Name;
-  found.ofCountry = ofCountry;
+  found.completes = ofCountry && hit.kind != Key::Kind::Inside;
   found.isAlone = IsAlone(hit.entry);
   return found;
 }
@@ -253,30 +243,45 @@ std::vector<PlaceSearch::Found> PlaceSearch::Find(const QString &typed, const QS
 }
 
 std::optional<PlaceSearch::Found> PlaceSearch::First(const QString &typed, const QString &country) const {
-  const int index = country.trimmed().isEmpty() ? -1 : CountryIndex(country.trimmed());
-  if (!country.trimmed().isEmpty() && index < 0) return std::nullopt;
-  for (const Hit &hit : Hits(Fold(typed), index, false, 1))
-    if (hit.kind != Key::Kind::Inside) return LoadHit(hit, true);
-  return std::nullopt;
+  return FirstOf(Find(typed, country, 1));
+}
+
+std::optional<PlaceSearch::Found> PlaceSearch::FirstOf(const std::vector<Found> &found) {
+  const auto first = std::find_if(found.begin(), found.end(), [](const Found &one) { return one.completes; });
+  return first == found.end() ? std::nullopt : std::optional(*first);
 }
 
 std::optional<Place> PlaceSearch::At(const QString &city, const QString &country, int arcMinutesNorth, int arcMinutesEast) const {
   const QString folded = Fold(city);
   const int index = CountryIndex(country.trimmed());
-  std::optional<Place> nearest;
-  double least = NearbyArcMinutes;
+  std::vector<Place> named;
   auto key = std::lower_bound(keys.begin(), keys.end(), folded, [](const Key &k, const QString &text) { return k.text < text; });
-  for (; key != keys.end() && key->text == folded; ++key) {
-    if (key->kind == Key::Kind::Inside || entries[static_cast<std::size_t>(key->entry)].country != index) continue;
-    const Place place = LoadHit({key->entry, key->kind, true}, true).place;
-    const double north = SignedArcMinutes(place.Lat, place.NOSO == QLatin1String("S")) - arcMinutesNorth;
-    const double east = SignedArcMinutes(place.Longy, place.EaWe == QLatin1String("W")) - arcMinutesEast;
-    const double distance = std::hypot(north, east);
-    if (distance > least || (nearest && distance == least)) continue;
+  for (; key != keys.end() && key->text == folded; ++key)
+    if (key->kind != Key::Kind::Inside && EntryOf(*key).country == index) named.push_back(Load(EntryOf(*key).row).value_or(Place()));
+  return Nearest(named, arcMinutesNorth, arcMinutesEast);
+}
+
+std::optional<Place> PlaceSearch::At(Database &personDb, const QString &city, const QString &country, int arcMinutesNorth,
+                                     int arcMinutesEast) {
+  // The plus keeps the engine from walking through all places of the country for one name.
+  Recordset rows =
+      personDb.OpenRecordset(QStringLiteral("SELECT rowid AS PlaceRow, * FROM City WHERE City = ? AND +Country = ?"), {city, country});
+  std::vector<Place> named;
+  for (; !rows.AtEnd(); rows.MoveNext()) named.push_back(ReadPlace(rows));
+  return Nearest(named, arcMinutesNorth, arcMinutesEast);
+}
+
+std::optional<Place> PlaceSearch::Nearest(const std::vector<Place> &places, int arcMinutesNorth, int arcMinutesEast) {
+  const Place *nearest = nullptr;
+  double least = NearbyArcMinutes;
+  for (const Place &place : places) {
+    const double distance = std::hypot(PersonFields::SignedArcMinutes(place.Lat, place.NOSO) - arcMinutesNorth,
+                                       PersonFields::SignedArcMinutes(place.Longy, place.EaWe) - arcMinutesEast);
+    if (distance >= least) continue;
     least = distance;
-    nearest = place;
+    nearest = &place;
   }
-  return nearest;
+  return nearest ? std::optional(*nearest) : std::nullopt;
 }
 
 std::vector<PlaceSearch::Listed> PlaceSearch::CitiesOf(const QString &country) const {

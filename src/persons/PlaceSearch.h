@@ -24,7 +24,7 @@ class PlaceSearch {
   struct Found {
     Place place;
     bool byStart = true;    // the place's own name begins with what was typed
-    bool ofCountry = true;  // it lies in the country that was asked for
+    bool completes = true;  // a name of it begins so, and it lies in the country that was asked for: typing may complete to it
     bool isAlone = true;    // no other place shares its name, region and country
     // "Springfield, Illinois, United States of America"; followed by the position where the place is not alone.
     QString Label() const;
@@ -37,9 +37,12 @@ class PlaceSearch {
   std::vector<Found> Find(const QString &typed, const QString &country, int limit) const;
   // The place that typing completes to: the best one whose name, or other name, begins with what was typed.
   std::optional<Found> First(const QString &typed, const QString &country) const;
-  // The place of exactly this name that lies nearest, for its zone. arcMinutesNorth and arcMinutesEast are signed; places more than
-  // 2 degrees off are other places of the same name.
+  static std::optional<Found> FirstOf(const std::vector<Found> &found);  // the same of an answer of Find
+  // The place of exactly this name that lies nearest, for its zone. arcMinutesNorth and arcMinutesEast are signed; places 2 degrees off
+  // and more are other places of the same name.
   std::optional<Place> At(const QString &city, const QString &country, int arcMinutesNorth, int arcMinutesEast) const;
+  // The same for a chart, which asks for one name and has not read all of them: the place's own name to the letter.
+  static std::optional<Place> At(Database &personDb, const QString &city, const QString &country, int arcMinutesNorth, int arcMinutesEast);
 
   struct Listed {
     QString city;
@@ -80,6 +83,7 @@ class PlaceSearch {
 
   void AddKey(const QString &text, int entry, Key::Kind kind);
   std::vector<Hit> Hits(const QString &folded, int country, bool elsewhere, std::size_t limit) const;
+  static std::optional<Place> Nearest(const std::vector<Place> &places, int arcMinutesNorth, int arcMinutesEast);
   int CountryIndex(const QString &name) const;  // -1 for none
   Found LoadHit(const Hit &hit, bool ofCountry) const;
   bool IsAlone(int entry) const;

@@ -15,12 +15,6 @@ constexpr int SamePlaceArcMinutes = 120;
 
 const QString OneCountry = QStringLiteral("rowid = (SELECT rowid FROM Country WHERE Name = ? LIMIT 1)");
 
-int ArcMinutes(const QString &stored, const QString &hemisphere) {
-  const auto angle = PersonFields::ReadDegrees(PersonFields::ShownDegrees(stored));
-  const int size = angle ? angle->ArcMinutes() : 0;
-  return hemisphere == QLatin1String("S") || hemisphere == QLatin1String("W") ? -size : size;
-}
-
 }  // namespace
 
 QStringList PlaceStore::Countries() const {
@@ -37,7 +31,7 @@ bool PlaceStore::HasCountry(const QString &name) const {
 QString PlaceStore::CountryDifference(const QString &name) const {
   const Recordset row = db->OpenRecordset(QStringLiteral("SELECT GMTDIF FROM Country WHERE Name = ?"), {name});
   const QString stored = row.IsEmpty() ? QString() : row.Field(QStringLiteral("GMTDIF")).toString();
-  return stored.isEmpty() ? QStringLiteral("+00.00") : PersonFields::ShownDifference(stored);
+  return stored.isEmpty() ? PersonFields::NoDifference : PersonFields::ShownDifference(stored);
 }
 
 qlonglong PlaceStore::SaveCity(const Place &place) {
@@ -62,9 +56,13 @@ qlonglong PlaceStore::WriteCity(const Place &place) {
     row.AddNew();
   } else {
     const auto text = [&](const char *column) { return row.Field(QLatin1String(column)).toString(); };
+    const auto isNear = [](const QString &stored, const QString &hemisphere, const QString &other, const QString &otherHemisphere) {
+      return qAbs(PersonFields::SignedArcMinutes(stored, hemisphere) - PersonFields::SignedArcMinutes(other, otherHemisphere)) <=
+             SamePlaceArcMinutes;
+    };
     const bool isSamePlace = text("Country").compare(place.Country, Qt::CaseInsensitive) == 0 &&
-                             qAbs(ArcMinutes(text("Lat"), text("NOSO")) - ArcMinutes(place.Lat, place.NOSO)) <= SamePlaceArcMinutes &&
-                             qAbs(ArcMinutes(text("Longy"), text("EaWe")) - ArcMinutes(place.Longy, place.EaWe)) <= SamePlaceArcMinutes;
+                             isNear(text("Lat"), text("NOSO"), place.Lat, place.NOSO) &&
+                             isNear(text("Longy"), text("EaWe"), place.Longy, place.EaWe);
     row.Edit();
     for (const char *column : {"Region", "Zone", "Known", "Population"})
       if (!isSamePlace && row.HasColumn(QLatin1String(column))) row.SetField(QLatin1String(column), QVariant());

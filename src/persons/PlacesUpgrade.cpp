@@ -4,9 +4,9 @@
 
 #include <QFileInfo>
 #include <QHash>
-#include <QSet>
 #include <QSqlQuery>
 
+#include "persons/PersonFields.h"
 #include "platform/Store.h"
 
 namespace {
@@ -47,18 +47,13 @@ struct Point {
   }
 };
 
-int ArcMinutes(const QString &dddmm, const QString &hemisphere) {
-  const int minutes = dddmm.left(3).toInt() * 60 + dddmm.mid(3).toInt();
-  return hemisphere == QLatin1String("S") || hemisphere == QLatin1String("W") ? -minutes : minutes;
-}
-
 QString KeyOf(const QString &city, const QString &country) { return city.toLower() + u'\n' + country.toLower(); }
 
 constexpr const char *PlaceColumns = "rowid, City, Country, Lat, NOSO, Longy, EaWe";
 
 Point ReadPoint(const QSqlQuery &row) {
-  return {row.value(0).toLongLong(), ArcMinutes(row.value(3).toString(), row.value(4).toString()),
-          ArcMinutes(row.value(5).toString(), row.value(6).toString()), false};
+  return {row.value(0).toLongLong(), PersonFields::SignedArcMinutes(row.value(3).toString(), row.value(4).toString()),
+          PersonFields::SignedArcMinutes(row.value(5).toString(), row.value(6).toString()), false};
 }
 
 void Run(QSqlQuery &query, const Database &db) {
@@ -89,11 +84,7 @@ PlacesUpgrade::Outcome PlacesUpgrade::Apply(Database &personDb, const QString &p
 }
 
 void PlacesUpgrade::AddColumns(Database &personDb) {
-  QSqlQuery columns(personDb.Handle());
-  columns.exec(QStringLiteral("PRAGMA table_info(City)"));
-  QSet<QString> present;
-  while (columns.next()) present.insert(columns.value(1).toString().toLower());
-  columns.finish();
+  const QSet<QString> present = personDb.Columns(QStringLiteral("City"));
   for (const auto &[name, type] : AddedColumns) {
     if (present.contains(QLatin1String(name).toString().toLower())) continue;
     personDb.Execute(QStringLiteral("ALTER TABLE City ADD COLUMN %1 %2").arg(QLatin1String(name), QLatin1String(type)));

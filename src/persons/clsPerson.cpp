@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "persons/clsPerson.h"
 
+#include <QCoreApplication>
 #include <cmath>
 
 #include "engine/Functions.h"
@@ -13,6 +14,8 @@ using Functions::Whole;
 using Functions::Whole16;
 
 namespace {
+
+QString tr(const char *text) { return QCoreApplication::translate("clsPerson", text); }
 
 const QString NoCorrection = QStringLiteral("+00.00");
 
@@ -52,7 +55,7 @@ Recordset *clsPerson::Rows() const {
 
 Recordset &clsPerson::Opened() const {
   if (Recordset *open = Rows()) return *open;
-  throw StoreError(QStringLiteral("No store of persons is open, so there is no person to go to."));
+  throw StoreError(tr("No store of persons is open, so there is no person to go to."));
 }
 
 int clsPerson::Count() const { return Rows() ? Rows()->RecordCount() : 0; }
@@ -98,7 +101,7 @@ void clsPerson::AddNew() {
 void clsPerson::Delete() { Opened().Delete(); }
 
 int clsPerson::FindPerson(const QString &wanted) {
-  if (!db) throw StoreError(QStringLiteral("No store of persons is open, so '%1' cannot be looked for.").arg(wanted));
+  if (!db) throw StoreError(tr("No store of persons is open, so '%1' cannot be looked for.").arg(wanted));
   Recordset found = db->OpenRecordset(QStringLiteral("SELECT * FROM Person WHERE Name = ?"), {wanted});
   if (found.RecordCount() == 0) return 0;
   found.MoveFirst();
@@ -165,7 +168,7 @@ QDate clsPerson::MakeDate(int day, int month, int year) {
   const QDate date(year, month, day);
   // Beyond four digits a year fits no screen, store or text of this program.
   if (!date.isValid() || year < 1 || year > 9999)
-    throw ConversionError(QStringLiteral("The date %1/%2/%3 does not exist; give day, month and year from 1 to 9999, as in 23/07/1980.")
+    throw ConversionError(tr("The date %1/%2/%3 does not exist; give day, month and year from 1 to 9999, as in 23/07/1980.")
                               .arg(Two(day), Two(month), QString::number(year)));
   return date;
 }

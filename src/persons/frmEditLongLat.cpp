@@ -17,9 +17,8 @@
 #include <QVBoxLayout>
 #include <span>
 
-#include "content/ShellFonts.h"
-#include "content/Skin.h"
 #include "content/Theme.h"
+#include "persons/FormParts.h"
 #include "persons/PersonFields.h"
 #include "persons/PlaceCombo.h"
 #include "persons/UndoBar.h"
@@ -27,10 +26,10 @@
 #include "platform/Notices.h"
 #include "platform/Numbers.h"
 
+using namespace FormParts;
+
 namespace {
 
-const QString NoAngle = QStringLiteral("000:00");
-const QString NoDifference = QStringLiteral("+00.00");
 constexpr double FarthestAngle = 180;
 
 struct Choice {
@@ -53,19 +52,6 @@ constexpr Choice SunriseRules[] = {{"optSunriseCentre", 1, QT_TRANSLATE_NOOP("fr
                                    {"optSunriseLimb", 2, QT_TRANSLATE_NOOP("frmEditLongLat", "Upper limb, with refraction")}};
 constexpr Choice Methods[] = {{"optCalcEphem", 0, QT_TRANSLATE_NOOP("frmEditLongLat", "Modern Ephemeris")},
                               {"optCalcVakya", 1, QT_TRANSLATE_NOOP("frmEditLongLat", "Vakya Panchang/Surya Siddhanta")}};
-
-QLabel *MakeLabel(const QString &text, const char *role, QWidget *buddy = nullptr) {
-  auto *label = new QLabel(text);
-  label->setProperty("role", role);
-  label->setBuddy(buddy);
-  return label;
-}
-
-QLabel *MakeHeading(const QString &text) {
-  QLabel *label = MakeLabel(text, "head");
-  ShellFonts().SetSubHeadFont(*label);
-  return label;
-}
 
 QGridLayout *MakeGrid() {
   auto *grid = new QGridLayout;
@@ -144,27 +130,14 @@ frmEditLongLat::~frmEditLongLat() = default;
 
 // --- layout -------------------------------------------------------------------------------------------
 
-QPushButton *frmEditLongLat::MakeButton(const char *name, const QString &text, const QString &hint) {
-  auto *button = new QPushButton(Skin::Picture(QLatin1String(name)), text);
-  button->setObjectName(QLatin1String(name));
-  button->setToolTip(hint);
-  button->setAccessibleName(QString(text).remove(u'&'));
-  button->setAutoDefault(false);
-  return button;
-}
-
-QLabel *frmEditLongLat::MakeFault(const QLineEdit *field) {
-  QLabel *label = MakeLabel(QString(), "bad");
-  label->setObjectName(QStringLiteral("fault_") + field->objectName());
-  label->setWordWrap(true);
-  ShellFonts().SetSmallFont(*label);
-  label->hide();
+QLabel *frmEditLongLat::MakeFaultOf(const QLineEdit *field) {
+  QLabel *label = MakeFault(field->objectName());
   connect(field, &QLineEdit::textChanged, label, &QLabel::hide);
   return label;
 }
 
 QLineEdit *frmEditLongLat::MakeAngle(const char *name, const QString &what) {
-  auto *edit = new QLineEdit(NoAngle);
+  auto *edit = new QLineEdit(PersonFields::NoAngle);
   edit->setObjectName(QLatin1String(name));
   edit->setAccessibleName(tr("%1 as degrees:minutes").arg(what));
   edit->setToolTip(tr("Degrees and minutes of arc, as 027:09."));
@@ -186,7 +159,7 @@ QWidget *frmEditLongLat::MakeCityTab() {
   cbocCountry->setEditable(true);
   cbocCountry->setInsertPolicy(QComboBox::NoInsert);
   PlaceCombo::ChooseOnlyByHand(*cbocCountry);
-  txtCitGMT = new QLineEdit(NoDifference);
+  txtCitGMT = new QLineEdit(PersonFields::NoDifference);
   txtCitGMT->setObjectName(QStringLiteral("txtCitGMT"));
   txtCitGMT->setAccessibleName(tr("Time difference from GMT as +hours.minutes"));
   txtLat = MakeAngle("txtLat", tr("Latitude"));
@@ -220,7 +193,7 @@ QWidget *frmEditLongLat::MakeCityTab() {
       grid->addWidget(other, row, 3);
     }
     ++row;
-    if (const auto *edit = qobject_cast<QLineEdit *>(field)) grid->addWidget(MakeFault(edit), row++, 1, 1, 3);
+    if (const auto *edit = qobject_cast<QLineEdit *>(field)) grid->addWidget(MakeFaultOf(edit), row++, 1, 1, 3);
   };
   add(tr("City"), cmbCityList);
   grid->addWidget(lblCityNote, row++, 1, 1, 3);
@@ -249,8 +222,8 @@ QWidget *frmEditLongLat::MakeCityTab() {
   });
   connect(addCity, &QPushButton::clicked, this, &frmEditLongLat::AddCity);
   connect(change, &QPushButton::clicked, this, &frmEditLongLat::ChangeCity);
-  connect(remove, &QPushButton::clicked, this, [this] { Guard([this] { DeleteCity(); }); });
-  connect(cmdSave, &QPushButton::clicked, this, [this] { Guard([this] { SaveCity(); }); });
+  connect(remove, &QPushButton::clicked, this, [this] { Guard(*this, [this] { DeleteCity(); }); });
+  connect(cmdSave, &QPushButton::clicked, this, [this] { Guard(*this, [this] { SaveCity(); }); });
   return tab;
 }
 
@@ -265,14 +238,14 @@ QWidget *frmEditLongLat::MakeCountryTab() {
   cboCNTRY->setEditable(true);
   cboCNTRY->setInsertPolicy(QComboBox::NoInsert);
   PlaceCombo::ChooseOnlyByHand(*cboCNTRY);
-  txtGMTDiff = new QLineEdit(NoDifference);
+  txtGMTDiff = new QLineEdit(PersonFields::NoDifference);
   txtGMTDiff->setObjectName(QStringLiteral("txtGMTDiff"));
   txtGMTDiff->setAccessibleName(tr("Time difference from GMT as +hours.minutes"));
   grid->addWidget(MakeLabel(tr("Country"), "caption", cboCNTRY), 0, 0);
   grid->addWidget(cboCNTRY, 0, 1);
   grid->addWidget(MakeLabel(tr("GMT difference"), "caption", txtGMTDiff), 1, 0);
   grid->addWidget(txtGMTDiff, 1, 1);
-  QLabel *fault = MakeFault(txtGMTDiff);
+  QLabel *fault = MakeFaultOf(txtGMTDiff);
   grid->addWidget(fault, 2, 1);
   layout->addLayout(grid);
   layout->addStretch();
@@ -293,13 +266,13 @@ QWidget *frmEditLongLat::MakeCountryTab() {
   // While a country is being written, its name is only a name.
   connect(cboCNTRY->lineEdit(), &QLineEdit::returnPressed, this, [this] {
     const int listed = cboCNTRY->findText(cboCNTRY->currentText().trimmed(), Qt::MatchFixedString);
-    if (listed >= 0 && !cmdCSave->isEnabled()) Guard([&] { ShowCountry(cboCNTRY->itemText(listed)); });
+    if (listed >= 0 && !cmdCSave->isEnabled()) Guard(*this, [&] { ShowCountry(cboCNTRY->itemText(listed)); });
   });
-  connect(cboCNTRY, &QComboBox::activated, this, [this](int index) { Guard([&] { ShowCountry(cboCNTRY->itemText(index)); }); });
+  connect(cboCNTRY, &QComboBox::activated, this, [this](int index) { Guard(*this, [&] { ShowCountry(cboCNTRY->itemText(index)); }); });
   connect(add, &QPushButton::clicked, this, &frmEditLongLat::AddCountry);
   connect(modify, &QPushButton::clicked, this, &frmEditLongLat::ChangeCountry);
-  connect(remove, &QPushButton::clicked, this, [this] { Guard([this] { DeleteCountry(); }); });
-  connect(cmdCSave, &QPushButton::clicked, this, [this] { Guard([this] { SaveCountry(); }); });
+  connect(remove, &QPushButton::clicked, this, [this] { Guard(*this, [this] { DeleteCountry(); }); });
+  connect(cmdCSave, &QPushButton::clicked, this, [this] { Guard(*this, [this] { SaveCountry(); }); });
   return tab;
 }
 
@@ -328,7 +301,7 @@ QWidget *frmEditLongLat::MakeOptionsTab() {
   custom->addWidget(MakeLabel(tr("Degrees"), "caption", txtCustAyan));
   custom->addWidget(txtCustAyan, 1);
   left->addLayout(custom);
-  left->addWidget(MakeFault(txtCustAyan));
+  left->addWidget(MakeFaultOf(txtCustAyan));
   left->addStretch();
   right->addWidget(MakeHeading(tr("Rahu and Ketu")));
   nodes = MakeOptions(right, Nodes, this);
@@ -352,7 +325,7 @@ QWidget *frmEditLongLat::MakeOptionsTab() {
   buttons->addWidget(save);
   layout->addLayout(buttons);
   connect(ayanamshas, &QButtonGroup::idToggled, this, [this] { txtCustAyan->setEnabled(ayanamshas->checkedId() == 13); });
-  connect(save, &QPushButton::clicked, this, [this] { Guard([this] { SaveOptions(); }); });
+  connect(save, &QPushButton::clicked, this, [this] { Guard(*this, [this] { SaveOptions(); }); });
   return tab;
 }
 
@@ -381,16 +354,8 @@ QWidget *frmEditLongLat::MakeDetailsTab() {
   buttons->addStretch();
   buttons->addWidget(save);
   layout->addLayout(buttons);
-  connect(save, &QPushButton::clicked, this, [this] { Guard([this] { SaveDetails(); }); });
+  connect(save, &QPushButton::clicked, this, [this] { Guard(*this, [this] { SaveDetails(); }); });
   return tab;
-}
-
-void frmEditLongLat::Guard(const std::function<void()> &work) {
-  try {
-    work();
-  } catch (const Error &fault) {
-    Notices::Show({Notice::Kind::Warning, windowTitle(), fault.Sentence()});
-  }
 }
 
 // --- cities -------------------------------------------------------------------------------------------
@@ -410,11 +375,6 @@ void frmEditLongLat::FillCityList() {
   cmbCityList->SetSearch(fresh.get());
   places = std::move(fresh);
   cmbCityList->ListCountry(QString());
-}
-
-void frmEditLongLat::PlacesAreChanged() {
-  FillCityList();
-  emit PlacesChanged();
 }
 
 void frmEditLongLat::ShowCity(const Place &place) {
@@ -437,8 +397,8 @@ void frmEditLongLat::ShowCity(const Place &place) {
 
 void frmEditLongLat::AddCity() {
   cityRow = 0;
-  txtLat->setText(NoAngle);
-  txtLong->setText(NoAngle);
+  txtLat->setText(PersonFields::NoAngle);
+  txtLong->setText(PersonFields::NoAngle);
   optNorth->setChecked(true);
   optEast->setChecked(true);
   cmbCityList->ShowCity(QString());
@@ -464,9 +424,7 @@ void frmEditLongLat::SaveCity() {
   place.Country = country;
   bool isSound = true;
   const auto refuse = [&](const QWidget *field, const QString &sentence) {
-    auto *label = findChild<QLabel *>(QStringLiteral("fault_") + field->objectName());
-    label->setText(sentence);
-    label->show();
+    Say(*findChild<QLabel *>(QStringLiteral("fault_") + field->objectName()), sentence);
     isSound = false;
   };
   for (const QLineEdit *angle : {txtLat, txtLong})
@@ -497,12 +455,12 @@ void frmEditLongLat::SaveCity() {
   }
   cmdSave->setEnabled(false);
   bar->Clear();
-  PlacesAreChanged();
+  FillCityList();
   if (const auto now = places->Load(*row)) ShowCity(*now);
   if (before.IsEmpty()) return;
   bar->Offer(tr("%1 is changed.").arg(place.City), tr("&Undo"), [this, before, row = *row] {
     store.GoBackTo(before);
-    PlacesAreChanged();
+    FillCityList();
     if (const auto now = places->Load(row)) {
       cmbCityList->ShowCity(now->City);
       ShowCity(*now);
@@ -524,13 +482,13 @@ void frmEditLongLat::DeleteCity() {
     return;
   }
   cmdSave->setEnabled(false);
-  PlacesAreChanged();
+  FillCityList();
   AddCity();
   cmdSave->setEnabled(false);
   lblCityNote->clear();
   bar->Offer(tr("%1 is deleted.").arg(name), tr("&Undo"), [this, kept, shown] {
     store.Restore(kept);
-    PlacesAreChanged();
+    FillCityList();
     if (shown) {
       cmbCityList->ShowCity(shown->City);
       ShowCity(*shown);
@@ -550,7 +508,7 @@ void frmEditLongLat::ShowCountry(const QString &name) {
 
 void frmEditLongLat::AddCountry() {
   countryName.clear();
-  txtGMTDiff->setText(NoDifference);
+  txtGMTDiff->setText(PersonFields::NoDifference);
   cboCNTRY->setCurrentIndex(-1);
   cboCNTRY->setEditText(QString());
   cmdCSave->setEnabled(true);
@@ -569,10 +527,9 @@ void frmEditLongLat::SaveCountry() {
   const bool isRenamed = !countryName.isEmpty() && countryName.compare(name, Qt::CaseInsensitive) != 0;
   const bool isTaken = isRenamed && store.HasCountry(name);
   if (name.isEmpty() || isTaken || !difference) {
-    fault->setText(name.isEmpty() ? tr("Please enter the name of the country.")
-                   : isTaken      ? tr("%1 is in the list already. Please write another name.").arg(name)
-                                  : tr("Please write hours and minutes ahead of Greenwich with two digits of minutes, as +05.30."));
-    fault->show();
+    Say(*fault, name.isEmpty() ? tr("Please enter the name of the country.")
+                : isTaken      ? tr("%1 is in the list already. Please write another name.").arg(name)
+                               : tr("Please write hours and minutes ahead of Greenwich with two digits of minutes, as +05.30."));
     return;
   }
   const bool isAdded = countryName.isEmpty();
@@ -587,7 +544,7 @@ void frmEditLongLat::SaveCountry() {
   FillCountryLists();
   ShowCountry(name);
   bar->Clear();
-  PlacesAreChanged();
+  FillCityList();
   if (before.IsEmpty()) return;
   const QString done = isAdded ? tr("%1 was in the list already and is changed.") : tr("%1 is changed.");
   bar->Offer(done.arg(name), tr("&Undo"), [this, before, former] {
@@ -595,7 +552,7 @@ void frmEditLongLat::SaveCountry() {
     FillCountryLists();
     const int listed = cboCNTRY->findText(former, Qt::MatchFixedString);
     ShowCountry(listed < 0 ? former : cboCNTRY->itemText(listed));  // in its own letters
-    PlacesAreChanged();
+    FillCityList();
   });
 }
 
@@ -609,12 +566,12 @@ void frmEditLongLat::DeleteCountry() {
   FillCountryLists();
   AddCountry();
   cmdCSave->setEnabled(false);
-  PlacesAreChanged();
+  FillCityList();
   bar->Offer(tr("%1 is deleted.").arg(name), tr("&Undo"), [this, kept, name] {
     store.Restore(kept);
     FillCountryLists();
     ShowCountry(name);
-    PlacesAreChanged();
+    FillCityList();
   });
 }
 
@@ -638,15 +595,20 @@ void frmEditLongLat::SaveOptions() {
   try {
     TextToNumber(txtCustAyan->text(), tr("custom ayanamsha"));
   } catch (const ConversionError &) {
-    fault->setText(tr("Please write degrees as a decimal number, as 23.50."));
-    fault->show();
+    Say(*fault, tr("Please write degrees as a decimal number, as 23.50."));
     return;
   }
-  if (ayanamshas->checkedId() >= 0) userSettings.SetIntValue(SettingKeys::AyanType, ayanamshas->checkedId());
-  if (nodes->checkedId() >= 0) userSettings.SetIntValue(SettingKeys::RahuKetuMode, nodes->checkedId());
-  userSettings.SetIntValue(SettingKeys::DayDivisions, dayDivisions->checkedId());
-  userSettings.SetIntValue(SettingKeys::SunriseRule, sunriseRules->checkedId());
-  userSettings.SetValue(SettingKeys::CustAyan, txtCustAyan->text().trimmed());
+  std::vector<UserSettings::Change> changes{{SettingKeys::DayDivisions, dayDivisions->checkedId()},
+                                            {SettingKeys::SunriseRule, sunriseRules->checkedId()},
+                                            {SettingKeys::CustAyan, txtCustAyan->text().trimmed()}};
+  if (ayanamshas->checkedId() >= 0) changes.emplace_back(SettingKeys::AyanType, ayanamshas->checkedId());
+  if (nodes->checkedId() >= 0) changes.emplace_back(SettingKeys::RahuKetuMode, nodes->checkedId());
+  try {
+    userSettings.SetAll(changes);
+  } catch (const StoreError &) {
+    emit CalculationChanged();  // they hold for this run all the same, and charts that are made from now on follow them
+    throw;
+  }
   emit CalculationChanged();
 }
 

@@ -33,7 +33,6 @@ class frmEditLongLat : public QDialog {
   ~frmEditLongLat() override;
 
  signals:
-  void PlacesChanged();
   void CalculationChanged();  // ayanamsha, node or the times of day were saved: charts must be made anew
 
  protected:
@@ -44,8 +43,7 @@ class frmEditLongLat : public QDialog {
   QWidget *MakeCountryTab();
   QWidget *MakeOptionsTab();
   QWidget *MakeDetailsTab();
-  QPushButton *MakeButton(const char *name, const QString &text, const QString &hint);
-  QLabel *MakeFault(const QLineEdit *field);
+  QLabel *MakeFaultOf(const QLineEdit *field);
   QLineEdit *MakeAngle(const char *name, const QString &what);
 
   void FillCountryLists();
@@ -64,8 +62,6 @@ class frmEditLongLat : public QDialog {
   void SaveOptions();
   void SaveDetails();
   void CheckAngle(QLineEdit *field);
-  void Guard(const std::function<void()> &work);
-  void PlacesAreChanged();
   void TellNotSaved(const QString &name);
 
   std::shared_ptr<Database> db;

@@ -19,9 +19,9 @@
 #include <QVBoxLayout>
 
 #include "content/Role.h"
-#include "content/ShellFonts.h"
 #include "content/Skin.h"
 #include "content/Theme.h"
+#include "persons/FormParts.h"
 #include "persons/PersonFields.h"
 #include "persons/PersonsFile.h"
 #include "persons/PlaceCombo.h"
@@ -30,6 +30,8 @@
 #include "platform/Errors.h"
 #include "platform/FileTools.h"
 #include "platform/Notices.h"
+
+using namespace FormParts;
 
 namespace {
 
@@ -48,22 +50,10 @@ QFrame *MakeCard() {
   return card;
 }
 
-QLabel *MakeLabel(const QString &text, const char *role) {
-  auto *label = new QLabel(text);
-  label->setProperty("role", role);
-  return label;
-}
-
-QLabel *MakeHeading(const QString &text) {
-  QLabel *label = MakeLabel(text, "head");
-  ShellFonts().SetSubHeadFont(*label);
+QLabel *MakeCardHeading(const QString &text) {
+  QLabel *label = MakeHeading(text);
   label->setMinimumHeight(HeadingHeight);  // that of a heading with a link beside it, so that neighbours align
   return label;
-}
-
-void Say(QLabel &label, const QString &sentence) {
-  label.setText(sentence);
-  label.setVisible(!sentence.isEmpty());
 }
 
 // A long name keeps its start and its end.
@@ -108,12 +98,12 @@ frmManageUsers::frmManageUsers(std::shared_ptr<Database> personDb, const QString
   ReloadPlaces();
   birth->ListCountry(HomeCountry);
   residence->ListCountry(HomeCountry);
+  seenVersion = store.DataVersion();
   FillPersons();
   if (names->rowCount() > 0)
     ChooseRow(0);
   else
     AddUser();
-  seenVersion = store.DataVersion();
 }
 
 frmManageUsers::~frmManageUsers() = default;
@@ -151,16 +141,16 @@ QWidget *frmManageUsers::MakeHead() {
   row->addWidget(add);
   row->addWidget(remove);
   static_cast<QVBoxLayout *>(card->layout())->addLayout(row);
-  lblNameNote = MakeFault("fault_cmbPerson");
+  lblNameNote = MakeFault(QStringLiteral("cmbPerson"));
   card->layout()->addWidget(lblNameNote);
 
   PlaceCombo::ChooseOnlyByHand(*cmbPerson);
   connect(cmbPerson->lineEdit(), &QLineEdit::returnPressed, this, [this] {
     if (!PersonStore::IsSameName(cmbPerson->currentText(), chosen)) ChoosePerson(cmbPerson->currentText());
   });
-  connect(cmbPerson, &QComboBox::activated, this, [this](int index) { Guard([&] { ChooseRow(index); }); });
+  connect(cmbPerson, &QComboBox::activated, this, [this](int index) { Guard(*this, [&] { ChooseRow(index); }); });
   connect(add, &QPushButton::clicked, this, &frmManageUsers::AddUser);
-  connect(remove, &QPushButton::clicked, this, [this] { Guard([this] { DeleteUser(); }); });
+  connect(remove, &QPushButton::clicked, this, [this] { Guard(*this, [this] { DeleteUser(); }); });
   connect(cmbPerson, &QComboBox::editTextChanged, this, [this] { ShowName(); });
   return card;
 }
@@ -168,7 +158,7 @@ QWidget *frmManageUsers::MakeHead() {
 QWidget *frmManageUsers::MakeBirth() {
   auto *card = MakeCard();
   auto *layout = static_cast<QVBoxLayout *>(card->layout());
-  layout->addWidget(MakeHeading(tr("Birth")));
+  layout->addWidget(MakeCardHeading(tr("Birth")));
   auto *hint = MakeLabel(tr("As the birth certificate tells it, by the clock of the place."), "caption");
   hint->setWordWrap(true);
   layout->addWidget(hint);
@@ -185,7 +175,7 @@ QWidget *frmManageUsers::MakeBirth() {
     box->setMaxVisibleItems(16);
     return box;
   };
-  lblDateFault = MakeFault("fault_cmbBirthDay");
+  lblDateFault = MakeFault(QStringLiteral("cmbBirthDay"));
   cmbBirthDay = list("cmbBirthDay", tr("Day of birth"), tr("Choose the day on which the person was born."));
   cmbBirthMonth = list("cmbBirthMonth", tr("Month of birth"), tr("Choose the month in which the person was born."));
   cmbBirthYear =
@@ -228,7 +218,7 @@ QWidget *frmManageUsers::MakeBirth() {
   sexes->addButton(optFemale, 2);
   optAM->setChecked(true);
   optMale->setChecked(true);
-  lblTimeFault = MakeFault("fault_txtPerBirthTime");
+  lblTimeFault = MakeFault(QStringLiteral("txtPerBirthTime"));
   for (QRadioButton *option : {optMale, optFemale})
     option->setStyleSheet(QStringLiteral("QRadioButton:disabled { color: palette(placeholder-text); }"));
   auto *timeRow = new QHBoxLayout;
@@ -274,7 +264,7 @@ QWidget *frmManageUsers::MakeResidence() {
   auto *card = MakeCard();
   auto *layout = static_cast<QVBoxLayout *>(card->layout());
   auto *head = new QHBoxLayout;
-  head->addWidget(MakeHeading(tr("Residence")));
+  head->addWidget(MakeCardHeading(tr("Residence")));
   head->addStretch();
   auto *same = new QPushButton(tr("Same as birth"));
   same->setObjectName(QStringLiteral("cmdSameAsBirth"));
@@ -299,15 +289,6 @@ QWidget *frmManageUsers::MakeResidence() {
   return card;
 }
 
-QPushButton *frmManageUsers::MakeButton(const char *name, const QString &text, const QString &hint) {
-  auto *button = new QPushButton(Skin::Picture(QLatin1String(name)), text);
-  button->setObjectName(QLatin1String(name));
-  button->setToolTip(hint);
-  button->setAccessibleName(QString(text).remove(u'&'));
-  button->setAutoDefault(false);
-  return button;
-}
-
 QWidget *frmManageUsers::MakeButtons() {
   auto *row = new QWidget;
   auto *layout = new QHBoxLayout(row);
@@ -325,11 +306,11 @@ QWidget *frmManageUsers::MakeButtons() {
   layout->addWidget(save);
   layout->addWidget(close);
 
-  connect(save, &QPushButton::clicked, this, [this] { Guard([this] { Save(); }); });
+  connect(save, &QPushButton::clicked, this, [this] { Guard(*this, [this] { Save(); }); });
   connect(close, &QPushButton::clicked, this, [this] { done(Accepted); });
   connect(cityList, &QPushButton::clicked, this, [this] {
     emit CityListWanted();
-    Guard([this] { ReloadPlaces(); });
+    Guard(*this, [this] { ReloadPlaces(); });
   });
   const QString kinds = tr("Persons (*.csv *.json)");
   connect(import, &QPushButton::clicked, this, [this, kinds] {
@@ -343,31 +324,12 @@ QWidget *frmManageUsers::MakeButtons() {
   return row;
 }
 
-QLabel *frmManageUsers::MakeFault(const char *name) const {
-  QLabel *label = MakeLabel(QString(), "bad");
-  label->setObjectName(QLatin1String(name));
-  label->setWordWrap(true);
-  label->setTextFormat(Qt::PlainText);
-  ShellFonts().SetSmallFont(*label);
-  label->hide();
-  return label;
-}
-
 void frmManageUsers::resizeEvent(QResizeEvent *event) {
   cards->setDirection(width() >= WideFrom ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
   QDialog::resizeEvent(event);
 }
 
 // --- persons --------------------------------------------------------------------------------------
-
-// A fault of a store keeps the form as it is and tells the reason.
-void frmManageUsers::Guard(const std::function<void()> &work) {
-  try {
-    work();
-  } catch (const Error &fault) {
-    Notices::Show({Notice::Kind::Warning, windowTitle(), fault.Sentence()});
-  }
-}
 
 void frmManageUsers::ReloadPlaces() {
   auto fresh = std::make_unique<PlaceSearch>(db);
@@ -385,7 +347,7 @@ void frmManageUsers::FillPersons() {
 void frmManageUsers::ChoosePerson(const QString &name) {
   for (int row = 0; row < names->rowCount(); ++row) {
     if (!PersonStore::IsSameName(cmbPerson->itemText(row), name)) continue;
-    Guard([&] { ChooseRow(row); });
+    Guard(*this, [&] { ChooseRow(row); });
     return;
   }
 }
@@ -413,7 +375,7 @@ void frmManageUsers::ShowPerson(const PersonRecord &record) {
   if (record.residence)
     residence->Show(*record.residence);
   else
-    residence->Empty(QStringLiteral("+00.00"));
+    residence->Empty(PersonFields::NoDifference);
   Say(*lblDateFault, QString());
   Say(*lblTimeFault, QString());
   ShowMoment();
@@ -500,7 +462,7 @@ void frmManageUsers::Save() {
   }
   const bool isChosen = seen && PersonStore::IsSameName(chosen, record->Name);
   const bool isOther = !isChosen && store.Has(record->Name);
-  const auto before = isOther ? store.Snapshot() : PersonStore::Removed();
+  const auto before = isOther ? store.SnapshotOf(record->Name) : PersonStore::Removed();
   if (!store.SaveOver(*record, isOther ? store.Find(record->Name) : isChosen ? seen : std::nullopt)) {
     TellOfOtherSave(record->Name);
     return;
@@ -537,16 +499,24 @@ void frmManageUsers::TellOfOtherSave(const QString &name) {
 
 // Back from another window: its changes are shown, unless something is being written here.
 bool frmManageUsers::event(QEvent *event) {
-  if (event->type() == QEvent::WindowActivate) Guard([this] { FollowOthers(); });
+  if (event->type() == QEvent::WindowActivate) Guard(*this, [this] { FollowOthers(); });
   return QDialog::event(event);
 }
 
 void frmManageUsers::FollowOthers() {
-  const auto now = store.DataVersion();
-  if (std::exchange(seenVersion, now) == now) return;
-  FillPersons();
-  const std::optional<PersonRecord> stored = store.Find(chosen);
-  if (!HasUnsaved() && seen && stored && *stored != *seen) ShowPerson(*stored);
+  try {
+    const auto now = store.DataVersion();
+    if (seenVersion != now) {
+      FillPersons();
+      const std::optional<PersonRecord> stored = store.Find(chosen);
+      if (!HasUnsaved() && seen && stored && *stored != *seen) ShowPerson(*stored);
+      seenVersion = now;  // last: what could not be read is read the next time
+    }
+    isFaultTold = false;
+  } catch (const Error &) {
+    // The box that tells it brings the screen to the front again as it closes, so a fault that lasts is told once.
+    if (!std::exchange(isFaultTold, true)) throw;
+  }
 }
 
 void frmManageUsers::DeleteUser() {
@@ -650,7 +620,7 @@ void frmManageUsers::ShowName() {
   const QString name = cmbPerson->currentText().trimmed();
   const bool isChosen = !chosen.isEmpty() && PersonStore::IsSameName(name, chosen);
   bool isStored = isChosen;
-  if (!isChosen && !name.isEmpty()) Guard([&] { isStored = store.Has(name); });
+  if (!isChosen && !name.isEmpty()) Guard(*this, [&] { isStored = store.Has(name); });
   SetRole(*lblNameNote, "warn");
   Say(*lblNameNote, isStored && !isChosen ? tr("This name is in the list already: saving changes that person.") : QString());
   for (QRadioButton *option : {optMale, optFemale}) {
@@ -662,7 +632,7 @@ void frmManageUsers::ShowName() {
 // --- files ----------------------------------------------------------------------------------------
 
 void frmManageUsers::ExportTo(const QString &path) {
-  Guard([&] {
+  Guard(*this, [&] {
     const std::vector<PersonRecord> all = store.All();
     WriteWholeFile(path, PersonsFile::Write(all, PersonsFile::FormatOf(path)));
     bar->Tell(tr("%n persons are written to %1.", nullptr, static_cast<int>(all.size())).arg(QFileInfo(path).fileName()));
@@ -670,7 +640,7 @@ void frmManageUsers::ExportTo(const QString &path) {
 }
 
 void frmManageUsers::ImportFrom(const QString &path) {
-  Guard([&] {
+  Guard(*this, [&] {
     const PersonsFile::Contents contents = PersonsFile::Read(ReadWholeFile(path), PersonsFile::FormatOf(path));
     const PersonStore::Removed before = store.Snapshot();
     const PersonStore::Tally tally = store.SaveAll(contents.persons);

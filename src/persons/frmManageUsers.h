@@ -13,7 +13,6 @@ class QBoxLayout;
 class QComboBox;
 class QLabel;
 class QLineEdit;
-class QPushButton;
 class QRadioButton;
 class QStringListModel;
 class UndoBar;
@@ -54,8 +53,6 @@ class frmManageUsers : public QDialog {
   QWidget *MakeBirth();
   QWidget *MakeResidence();
   QWidget *MakeButtons();
-  QPushButton *MakeButton(const char *name, const QString &text, const QString &hint);
-  QLabel *MakeFault(const char *name) const;
 
   void FillPersons();
   void ShowPerson(const PersonRecord &record);
@@ -79,7 +76,6 @@ class frmManageUsers : public QDialog {
   void SetForm(const QStringList &form);
   bool HasUnsaved() const { return Form() != saved; }
   void KeepUnsaved();  // offers to take back what is about to be replaced
-  void Guard(const std::function<void()> &work);
 
   std::shared_ptr<Database> db;
   PersonStore store;
@@ -99,6 +95,7 @@ class frmManageUsers : public QDialog {
   QString chosen;                    // the stored name of the person on the screen; empty for a new one
   std::optional<PersonRecord> seen;  // that person as the store held it then
   std::pair<qlonglong, qlonglong> seenVersion;
-  QStringList saved;  // the form as it was last loaded or saved
+  bool isFaultTold = false;  // of following other windows
+  QStringList saved;         // the form as it was last loaded or saved
   bool warnedOfLoss = false;
 };

@@ -15,7 +15,7 @@
 
 #include "content/ShellFonts.h"
 #include "content/Theme.h"
-#include "platform/Store.h"
+#include "persons/PersonStore.h"
 
 frmPeople::frmPeople(QWidget *parent) : DropDown(parent) {
   setObjectName(QStringLiteral("frmPeople"));
@@ -86,12 +86,7 @@ frmPeople::frmPeople(QWidget *parent) : DropDown(parent) {
   });
 }
 
-void frmPeople::Fill(Database &personDb) {
-  QStringList names;
-  for (Recordset rows = personDb.OpenRecordset(QStringLiteral("SELECT Name FROM Person ORDER BY Name")); !rows.AtEnd(); rows.MoveNext())
-    names << rows.Field(QStringLiteral("Name")).toString();
-  SetNames(names);
-}
+void frmPeople::Fill(const Database &personDb) { SetNames(PersonStore::NamesIn(personDb)); }
 
 void frmPeople::SetNames(const QStringList &names) {
   model->setStringList(names);
@@ -103,8 +98,6 @@ void frmPeople::SetCurrent(const QString &name) {
   current = name.trimmed();
   Narrow(txtFind->text());
 }
-
-void frmPeople::SetManageVisible(bool visible) { cmdManage->setVisible(visible); }
 
 void frmPeople::Narrow(const QString &typed) {
   const QString part = typed.trimmed();

@@ -22,11 +22,10 @@ class frmPeople : public DropDown {
   explicit frmPeople(QWidget *parent = nullptr);
 
   // All persons by name. Throws StoreError.
-  void Fill(Database &personDb);
+  void Fill(const Database &personDb);
   void SetNames(const QStringList &names);
   // The person who is marked when the list opens.
   void SetCurrent(const QString &name);
-  void SetManageVisible(bool visible);
 
  signals:
   void Chosen(const QString &name);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "platform/DataSeed.h"
 
+#include "platform/Errors.h"
 #include "platform/FileTools.h"
 #include "platform/Notices.h"
 #include "platform/StoreKeeper.h"
@@ -37,7 +38,12 @@ void DataSeed::BringUpToDate(const QString &installedEphe, const AppPaths &user)
   const QString epheFolder = user.Ephe(QString());
   QDir().mkpath(epheFolder);
   QLockFile oneAtATime(epheFolder + QStringLiteral("/SEED.lock"));
-  oneAtATime.tryLock(kLongestWaitMs);  // a folder that cannot be written is told by the first copy into it
+  // A folder that cannot be written is told by the first copy into it.
+  if (!oneAtATime.tryLock(kLongestWaitMs) && oneAtATime.error() == QLockFile::LockFailedError) {
+    throw StoreError(tr("The data folder \"%1\" is being filled by another program. Please wait until that is done and try again.")
+                         .arg(QDir::toNativeSeparators(epheFolder)),
+                     StoreError::Kind::Locked);
+  }
 
   const QByteArray installedVersion = Version(installedEphe + u'/' + kVersionFile);
   const bool renew = !installedVersion.isEmpty() && installedVersion != Version(user.Ephe(kVersionFile));

@@ -18,6 +18,6 @@ class DataSeed {
   /// Copies what is missing. When the data version (the file SEED) differs, texts, pictures and fonts are copied anew.
   /// Persons, residences and settings are the user's: never overwritten, and a missing store comes back from its kept copy first.
   /// An interrupted run is made good by the next.
-  /// @throws StoreError when a file cannot be copied
+  /// @throws StoreError when a file cannot be copied, and when another program does not come to the end of the same work
   static void BringUpToDate(const QString &installedEphe, const AppPaths &user);
 };

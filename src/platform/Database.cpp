@@ -276,6 +276,16 @@ int Database::Execute(const QString &sql, const QVariantList &bound) {
   return query.numRowsAffected();
 }
 
+QSet<QString> Database::Columns(const QString &table) const {
+  QSqlQuery query(handle_);
+  Run(query, QStringLiteral("SELECT name FROM pragma_table_info(?)"), {table});
+  QSet<QString> columns;
+  while (query.next()) {
+    columns.insert(query.value(0).toString().toLower());
+  }
+  return columns;
+}
+
 void Database::Run(QSqlQuery &query, const QString &sql, const QVariantList &bound) const {
   bool good = query.prepare(sql);
   for (const QVariant &value : bound) {

@@ -6,6 +6,7 @@
 
 #include <QCoreApplication>
 #include <QMap>
+#include <QSet>
 #include <QSqlDatabase>
 #include <QString>
 #include <QVariant>
@@ -62,6 +63,10 @@ class Database : public std::enable_shared_from_this<Database> {
 
   /// Runs one statement that gives no rows; returns the number of rows that an INSERT, UPDATE or DELETE changed.
   int Execute(const QString &sql, const QVariantList &bound = {});
+
+  /// The names of a table's columns, in small letters; none where there is no such table.
+  /// @throws StoreError
+  QSet<QString> Columns(const QString &table) const;
 
   /// For prepared queries that are kept. Let go of the handle and its queries before the last owner of this object goes.
   QSqlDatabase Handle() const { return handle_; }

@@ -77,10 +77,6 @@ bool UserSettings::BoolValue(const SettingKey &key) const {
   return BoolValue(QLatin1String(key.section), QLatin1String(key.key), IsTrue(QLatin1String(key.fallback)));
 }
 
-void UserSettings::SetValue(const SettingKey &key, const QString &value) {
-  SetValue(QLatin1String(key.section), QLatin1String(key.key), value);
-}
-
 void UserSettings::SetIntValue(const SettingKey &key, int value) { SetValue(key, QString::number(value)); }
 
 void UserSettings::SetBoolValue(const SettingKey &key, bool value) {
@@ -151,12 +147,17 @@ std::optional<QString> FileUserSettings::Stored(const QString &section, const QS
   return found == values_.constEnd() ? std::nullopt : std::optional<QString>(*found);
 }
 
-void FileUserSettings::SetValue(const QString &section, const QString &key, const QString &value) {
-  values_.insert((section + u'/' + key).toLower(), value);  // what cannot be kept holds for this run all the same
-  // The library would leave an empty file on a full disk.
-  CheckRoom(Path(), QFileInfo(Path()).size() + kRoomForOneValue + value.size() * kMostBytesOfALetter);
-  file_->sync();  // another program's spelling of the key is kept, and so are its values
-  file_->setValue(FullKey(section, key), value);
+void FileUserSettings::SetAll(const std::vector<Change> &changes) {
+  qint64 room = QFileInfo(Path()).size();
+  for (const Change &change : changes) {
+    values_.insert((change.section + u'/' + change.key).toLower(), change.value);  // what cannot be kept holds for this run all the same
+    room += kRoomForOneValue + change.value.size() * kMostBytesOfALetter;
+  }
+  CheckRoom(Path(), room);  // the library would leave an empty file on a full disk
+  file_->sync();            // another program's spelling of the key is kept, and so are its values
+  for (const Change &change : changes) {
+    file_->setValue(FullKey(change.section, change.key), change.value);
+  }
   file_->sync();
   if (file_->status() == QSettings::AccessError) {
     throw StoreError(tr("The settings file \"%1\" cannot be written. Please allow writing to the file and its folder, and check that the "
@@ -177,8 +178,10 @@ std::optional<QString> MemoryUserSettings::Stored(const QString &section, const 
   return found == values_.constEnd() ? std::nullopt : std::optional<QString>(*found);
 }
 
-void MemoryUserSettings::SetValue(const QString &section, const QString &key, const QString &value) {
-  values_.insert(MemoryKey(section, key), value);
+void MemoryUserSettings::SetAll(const std::vector<Change> &changes) {
+  for (const Change &change : changes) {
+    values_.insert(MemoryKey(change.section, change.key), change.value);
+  }
 }
 
 std::optional<QString> OverlaySettings::Stored(const QString &section, const QString &key) const {
@@ -186,4 +189,4 @@ std::optional<QString> OverlaySettings::Stored(const QString &section, const QSt
   return own ? own : below_.Stored(section, key);
 }
 
-void OverlaySettings::SetValue(const QString &section, const QString &key, const QString &value) { above_.SetValue(section, key, value); }
+void OverlaySettings::SetAll(const std::vector<Change> &changes) { above_.SetAll(changes); }

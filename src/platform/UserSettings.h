@@ -10,6 +10,8 @@
 
 #include <memory>
 #include <optional>
+#include <utility>
+#include <vector>
 
 class QSettings;
 
@@ -17,12 +19,24 @@ class QSettings;
 /// the chart style is written as "Kundstyle" in one place and read as "KundStyle" in another.
 class UserSettings {
  public:
+  /// A value to be stored.
+  struct Change {
+    Change(QString ofSection, QString ofKey, QString newValue)
+        : section(std::move(ofSection)), key(std::move(ofKey)), value(std::move(newValue)) {}
+    Change(const SettingKey &setting, QString newValue)
+        : Change(QLatin1String(setting.section), QLatin1String(setting.key), std::move(newValue)) {}
+    Change(const SettingKey &setting, int newValue) : Change(setting, QString::number(newValue)) {}
+
+    QString section, key, value;
+  };
+
   virtual ~UserSettings() = default;
 
   /// The stored text, or nothing when the key was never stored.
   virtual std::optional<QString> Stored(const QString &section, const QString &key) const = 0;
-  /// @throws StoreError when the value cannot be kept
-  virtual void SetValue(const QString &section, const QString &key, const QString &value) = 0;
+  /// Stores all of them in one write: the file takes all or none. For this run they hold either way.
+  /// @throws StoreError when they cannot be kept
+  virtual void SetAll(const std::vector<Change> &changes) = 0;
 
   /// Takes in what other programs have stored since, and tells whether that was anything. Between two calls the values stand still, so that
   /// all charts on the screen follow the same ones.
@@ -37,7 +51,9 @@ class UserSettings {
   QString Value(const SettingKey &key) const;
   int IntValue(const SettingKey &key) const;
   bool BoolValue(const SettingKey &key) const;
-  void SetValue(const SettingKey &key, const QString &value);
+  /// One alone, as SetAll does.
+  void SetValue(const QString &section, const QString &key, const QString &value) { SetAll({{section, key, value}}); }
+  void SetValue(const SettingKey &key, const QString &value) { SetAll({{key, value}}); }
   void SetIntValue(const SettingKey &key, int value);
   /// Stores "True" or "False".
   void SetBoolValue(const SettingKey &key, bool value);
@@ -54,9 +70,8 @@ class FileUserSettings : public UserSettings {
   explicit FileUserSettings(const QString &path = QString());
   ~FileUserSettings() override;
 
-  using UserSettings::SetValue;
   std::optional<QString> Stored(const QString &section, const QString &key) const override;
-  void SetValue(const QString &section, const QString &key, const QString &value) override;
+  void SetAll(const std::vector<Change> &changes) override;
   bool Refresh() override;
 
   QString Path() const { return PathOf(path_); }
@@ -76,9 +91,8 @@ class FileUserSettings : public UserSettings {
 /// Settings that live as long as the object, for tests.
 class MemoryUserSettings : public UserSettings {
  public:
-  using UserSettings::SetValue;
   std::optional<QString> Stored(const QString &section, const QString &key) const override;
-  void SetValue(const QString &section, const QString &key, const QString &value) override;
+  void SetAll(const std::vector<Change> &changes) override;
 
  private:
   QHash<QString, QString> values_;
@@ -90,9 +104,8 @@ class OverlaySettings : public UserSettings {
   /// `below` must outlive this object.
   explicit OverlaySettings(const UserSettings &below) : below_(below) {}
 
-  using UserSettings::SetValue;
   std::optional<QString> Stored(const QString &section, const QString &key) const override;
-  void SetValue(const QString &section, const QString &key, const QString &value) override;
+  void SetAll(const std::vector<Change> &changes) override;
 
  private:
   const UserSettings &below_;

@@ -181,6 +181,10 @@ void clsIni::WriteIniString(const QString &key, const QString &value, const QStr
   if (isDamaged) {
     text = IniText(QByteArray());
   }
+  // Nothing to change, and so no reason to ask for a folder that can be written.
+  if (!isDamaged && text.Value(name.trimmed(), key.trimmed()) == line.trimmed()) {
+    return;
+  }
   text.SetValue(name.trimmed(), key.trimmed(), line);
   if (!isDamaged) {
     WriteWholeFile(path, text.Content());

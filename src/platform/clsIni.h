@@ -26,7 +26,7 @@ class clsIni {
                        const QString &file = QString()) const;
 
   /// Sets the value; makes section, file and folder when they are missing. Line breaks in the value become blanks. Lines that another
-  /// program wrote meanwhile stay; a damaged file is set aside, with a notice.
+  /// program wrote meanwhile stay; a damaged file is set aside, with a notice. A file that holds the value already is left as it is.
   /// @throws StoreError when the file cannot be written; it is then as it was
   void WriteIniString(const QString &key, const QString &value, const QString &section = QString(), const QString &file = QString()) const;
 

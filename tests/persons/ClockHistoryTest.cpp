@@ -99,6 +99,12 @@ TEST(PersonFields, ReadsWhatIsMeantAndGuessesNothing) {
   for (const auto &[text, shown] : stored) EXPECT_EQ(PersonFields::ShownDifference(text), shown);
   EXPECT_EQ(PersonFields::ShownDegrees("02709"), "027:09");
   EXPECT_EQ(PersonFields::StoredDegrees("027:09"), "02709");
+  const int minutes = 27 * 60 + 9;
+  for (const char *south : {"S", "s", "W", "w"}) EXPECT_EQ(PersonFields::SignedArcMinutes("02709", south), -minutes) << south;
+  for (const char *north : {"N", "e", ""}) EXPECT_EQ(PersonFields::SignedArcMinutes("02709", north), minutes) << north;
+  EXPECT_EQ(PersonFields::SignedArcMinutes("027:09", "E"), minutes);
+  EXPECT_EQ(PersonFields::SignedArcMinutes("2709", "E"), minutes) << "as a number would be kept";
+  EXPECT_EQ(PersonFields::SignedArcMinutes("soon", "S"), 0);
 
   struct Half {
     const char *typed;

@@ -45,7 +45,7 @@ TEST_F(PersonFiles, FindsThePlaceThatIsMeant) {
   const auto elsewhere = search.Find("London", "India", 3);
   ASSERT_FALSE(elsewhere.empty());
   EXPECT_EQ(elsewhere.front().place.Country, "United Kingdom");
-  EXPECT_FALSE(elsewhere.front().ofCountry);
+  EXPECT_FALSE(elsewhere.front().completes);
 
   const auto nearest = search.At("springfield", "United States of America", 39 * 60 + 48, -(89 * 60 + 39));
   ASSERT_TRUE(nearest);

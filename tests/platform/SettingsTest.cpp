@@ -32,6 +32,27 @@ TEST_F(SettingsTest, FileSettingsOutliveTheirObjectAndIgnoreCase) {
   EXPECT_THROW(unwritable.SetValue(SettingKeys::AyanType, "3"), StoreError);
 }
 
+TEST_F(SettingsTest, SeveralSettingsAreOneWrite) {
+  const std::vector<UserSettings::Change> changes{{SettingKeys::AyanType, 3}, {"init", "CUSTAYAN", "23.5"}, {SettingKeys::SunriseRule, 2}};
+  const QString path = At("several.conf");
+  MemoryUserSettings memory;
+  FileUserSettings file(path);
+  for (UserSettings *settings : std::initializer_list<UserSettings *>{&memory, &file}) {
+    settings->SetValue(SettingKeys::CustAyan, "1");
+    settings->SetAll(changes);
+    EXPECT_EQ(settings->IntValue(SettingKeys::AyanType), 3);
+    EXPECT_EQ(settings->Value(SettingKeys::CustAyan), "23.5");
+  }
+  EXPECT_EQ(FileUserSettings(path).IntValue(SettingKeys::SunriseRule), 2);
+  EXPECT_EQ(ReadWholeFile(path).toLower().count("custayan"), 1);
+
+  WriteWholeFile(At("file"), "");
+  FileUserSettings unwritable(At("file/orvani.conf"));
+  EXPECT_THROW(unwritable.SetAll(changes), StoreError);
+  for (const UserSettings::Change &change : changes)
+    EXPECT_EQ(unwritable.Value(change.section, change.key), change.value) << "for this run, all of them";
+}
+
 TEST_F(SettingsTest, AFileThatCannotBeReadIsToldAndNeverTakenForAnEmptyOne) {
   const std::pair<const char *, QByteArray> unreadable[] = {{"words.conf", "not settings at all"},
                                                             {"bytes.conf", QByteArray("\x00\x01=\x02", 4)}};
@@ -90,6 +111,14 @@ TEST_F(SettingsTest, AnIniWriteChangesOneLine) {
   after.replace("bytes=\xff\xfe\r\n", "bytes=\xff\xfe\r\nSelLang=हिन्दी\r\n");
   after.append("\r\n[Third]\r\nNew=1\r\n");
   EXPECT_EQ(ReadWholeFile(paths.IniPath()).toStdString(), after.toStdString());
+
+  // A value that stands there already is no write, and the file is not made anew.
+  const QDateTime longAgo = QDateTime::fromSecsSinceEpoch(1000000000, Qt::UTC);
+  QFile file(paths.IniPath());
+  ASSERT_TRUE(file.open(QIODevice::ReadWrite) && file.setFileTime(longAgo, QFileDevice::FileModificationTime));
+  file.close();
+  ini.WriteIniString("lastPerson", " O'Brien = 1\r\n");
+  EXPECT_EQ(QFileInfo(paths.IniPath()).lastModified(), longAgo);
 
   ini.WriteIniString("Long", QString(300, 'x'));
   EXPECT_EQ(ini.GetIniString("Long", "").size(), 255);

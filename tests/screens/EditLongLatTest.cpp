@@ -7,11 +7,13 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QSignalSpy>
 #include <QTabWidget>
 #include <QTest>
 
 #include "persons/PersonFiles.h"
 #include "persons/frmEditLongLat.h"
+#include "platform/FileTools.h"
 #include "platform/Notices.h"
 
 namespace {
@@ -226,6 +228,22 @@ TEST_F(EditLongLat, OptionsAndDetailsAreKept) {
   const clsIni ini(AppPaths(At("app")));
   EXPECT_EQ(ini.GetIniString("DispName", ""), "Asha");
   EXPECT_EQ(ini.GetIniString("DispAdd", ""), "12 Ghat Road");
+}
+
+TEST_F(EditLongLat, OptionsThatCannotBeKeptAllHoldForThisRun) {
+  WriteWholeFile(At("file"), "");
+  FileUserSettings unwritable(At("file/orvani.conf"));
+  screen = std::make_unique<frmEditLongLat>(db, unwritable, clsIni(AppPaths(At("app"))));
+  const QSignalSpy followed(screen.get(), &frmEditLongLat::CalculationChanged);
+  Click("optKP");
+  Click("optRahuTrue");
+  Click("optSunriseLimb");
+  Click("cmdSaveAyanKundStyle");
+  EXPECT_EQ(notices.Seen().size(), 1U);
+  EXPECT_EQ(followed.size(), 1);
+  EXPECT_EQ(unwritable.IntValue(SettingKeys::AyanType), 3);
+  EXPECT_EQ(unwritable.IntValue(SettingKeys::RahuKetuMode), 2);
+  EXPECT_EQ(unwritable.IntValue(SettingKeys::SunriseRule), 2);
 }
 
 }  // namespace

@@ -379,7 +379,7 @@ TEST_F(MainScreen, GoesOnWithDamagedLanguageFilesAndAConfigurationThatCannotBeWr
 TEST_F(MainScreen, AsksForTheEndEvenWhereItsPlaceCannotBeKept) {
   class FullDisk : public MemoryUserSettings {
    public:
-    void SetValue(const QString &, const QString &, const QString &) override { throw StoreError("The disk is full."); }
+    void SetAll(const std::vector<Change> &) override { throw StoreError("The disk is full."); }
   } full;
   frmMain other(data.Paths(), full, boxes);
   other.SetClock([] { return Moment; });

@@ -3,6 +3,7 @@
 // The screen that adds, edits and deletes persons, driven as a user drives it.
 #include <QAbstractButton>
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -291,6 +292,24 @@ TEST_F(ManageUsers, ANameThatIsSomebodyElsesIsNotOverwrittenUnawares) {
   EXPECT_EQ(closed.size(), 0);
   screen->close();
   EXPECT_EQ(closed.size(), 1);
+}
+
+TEST_F(ManageUsers, AChangeThatCouldNotBeReadIsReadTheNextTime) {
+  const auto comeBack = [&] {
+    QEvent activated(QEvent::WindowActivate);
+    QApplication::sendEvent(screen.get(), &activated);
+  };
+  comeBack();
+  ASSERT_EQ(Text("txtPerBirthTime"), "10.50");
+  OpenPersons()->Execute("UPDATE Person SET Minutes = 20");
+  db->Execute("ALTER TABLE Person RENAME TO Away");
+  for (int i = 0; i < 2; ++i) comeBack();
+  EXPECT_EQ(notices.Seen().size(), 1U) << "told once, since the box brings the screen back when it closes";
+  EXPECT_EQ(Text("txtPerBirthTime"), "10.50");
+  db->Execute("ALTER TABLE Away RENAME TO Person");
+  comeBack();
+  EXPECT_EQ(Text("txtPerBirthTime"), "10.20");
+  EXPECT_EQ(notices.Seen().size(), 1U);
 }
 
 TEST_F(ManageUsers, ListsGoOutAndComeInAgain) {
