@@ -702,7 +702,8 @@ void frmMain::OpenDate() {
 void frmMain::OpenSettings() {
   FollowOthers();
   frmSettings wizard(settings, ini, this);
-  if (wizard.exec() == QDialog::Accepted) CalculateAnew();
+  wizard.exec();
+  CalculateAnew();  // after Cancel too: what Finish could not keep holds for this run
 }
 
 void frmMain::OpenPrint() {

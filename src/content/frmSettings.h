@@ -15,8 +15,7 @@ class QRadioButton;
 class QStackedWidget;
 class QVBoxLayout;
 
-// The settings wizard, four steps. Nothing is written before Finish; what must be remade afterwards is the caller's,
-// who sees by the result whether anything was.
+// The settings wizard, four steps. Nothing is written before Finish; what must be remade afterwards is the caller's.
 class frmSettings : public QDialog {
   Q_OBJECT
 
