@@ -179,6 +179,20 @@ TEST_F(ExactScreens, WalkThroughTheMonths) {
   EXPECT_TRUE(notices.Seen().empty());
 }
 
+// In a window narrower than its words, too, a tool that reads the screen finds a day where the pointer does.
+TEST_F(ExactScreens, TellTheRoomOfADayWhereItIsPainted) {
+  for (const int width : {700, 200}) {
+    MonthGrid grid;
+    grid.SetPage(FillMonth(session.TodayChart(), 2026, 11));
+    grid.resize(width, 300);
+    grid.resize(width, grid.minimumHeight());
+    for (int day = 0; day < grid.PartCount(); ++day) {
+      QTest::mouseClick(&grid, Qt::LeftButton, {}, grid.PartRoom(day).bottomRight() - QPoint(4, 4));
+      EXPECT_EQ(grid.Chosen(), QDate(2026, 11, 1).addDays(day)) << "at " << width;
+    }
+  }
+}
+
 // A name typed without its ending is that of a file all the same, and the file is not replaced unasked.
 TEST_F(ExactScreens, AskBeforeAFileIsReplaced) {
   const QString held = folder.filePath("held.pdf");
