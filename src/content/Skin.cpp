@@ -11,6 +11,7 @@
 #include <QSvgRenderer>
 #include <memory>
 
+#include "chart/ImageButton.h"
 #include "content/Theme.h"
 
 namespace {
@@ -112,6 +113,12 @@ QIcon Picture(const QString &name, State state) {
   // A primary button that is disabled has a pale ground, and its words the muted ink.
   auto disabled = onPrimary ? std::make_shared<QSvgRenderer>(InOneInk(drawing, theme.chart.muted)) : nullptr;
   return *pictures.insert(key, QIcon(new DrawingEngine(std::move(renderer), std::move(disabled))));
+}
+
+void Dress(ImageButton &button, const QString &name) {
+  button.SetNormalPic(Picture(name));
+  button.SetHoverPic(Picture(name, State::Hover));
+  button.SetDownPic(Picture(name, State::Down));
 }
 
 QPixmap Pixmap(const QString &name, const QSize &size, qreal devicePixelRatio) { return Picture(name).pixmap(size, devicePixelRatio); }

@@ -43,9 +43,7 @@ DashaView::DashaView(QWidget *parent)
   up->setText(tr("Up"));
   up->setAccessibleName(tr("One level up"));
   up->SetToolTip(tr("One level up (Backspace)"));
-  up->SetNormalPic(Skin::Picture(QStringLiteral("fflpUp")));
-  up->SetHoverPic(Skin::Picture(QStringLiteral("fflpUp"), Skin::State::Hover));
-  up->SetDownPic(Skin::Picture(QStringLiteral("fflpUp"), Skin::State::Down));
+  Skin::Dress(*up, QStringLiteral("fflpUp"));
   connect(up, &QAbstractButton::clicked, this, &DashaView::GoUp);
   tree->setObjectName(QStringLiteral("flpDashaTree"));
   tree->setText(tr("Tree..."));
