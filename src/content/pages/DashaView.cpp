@@ -15,13 +15,14 @@
 #include "content/Skin.h"
 #include "content/Theme.h"
 #include "content/pages/Card.h"
+#include "content/pages/CardHead.h"
 #include "content/pages/DashaRow.h"
 #include "content/pages/PageScroll.h"
 #include "content/pages/SpanStrip.h"
 
 DashaView::DashaView(QWidget *parent)
     : PageView(parent),
-      levelHeading(new QLabel),
+      levelHeading(MakeHead(QStringLiteral("lblVimLevel"))),
       pathHeading(new QLabel),
       status(new QLabel),
       up(new ImageButton),
@@ -29,11 +30,6 @@ DashaView::DashaView(QWidget *parent)
       strip(new SpanStrip) {
   setObjectName(QStringLiteral("framVimsot"));
   setAccessibleName(tr("Vimshottari dasha"));
-  levelHeading->setObjectName(QStringLiteral("lblVimLevel"));
-  levelHeading->setProperty("role", QStringLiteral("head"));
-  QFont bold = levelHeading->font();
-  bold.setBold(true);
-  levelHeading->setFont(bold);
   pathHeading->setObjectName(QStringLiteral("lblVimPath"));
   pathHeading->setProperty("role", QStringLiteral("caption"));
   status->setObjectName(QStringLiteral("lblVimStatus"));

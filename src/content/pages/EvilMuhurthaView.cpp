@@ -12,6 +12,7 @@
 #include "content/Theme.h"
 #include "content/pages/CaptionTable.h"
 #include "content/pages/Card.h"
+#include "content/pages/CardHead.h"
 #include "content/pages/ExactSpan.h"
 #include "content/pages/PageScroll.h"
 #include "content/pages/PeriodClock.h"
@@ -40,7 +41,7 @@ constexpr const char *Elements[4] = {"lblKulik", "lblKalBl", "lblYamGhan", "lblK
 }  // namespace
 
 EvilMuhurthaView::EvilMuhurthaView(QWidget *parent)
-    : PageView(parent), description(new QLabel), exactHead(new QLabel), stripTitle(new QLabel), strip(new SpanStrip) {
+    : PageView(parent), description(new QLabel), exactHead(new QLabel), stripTitle(MakeHead({})), strip(new SpanStrip) {
   setObjectName(QStringLiteral("framKulik"));
   setAccessibleName(tr("Periods of the day to keep clear of"));
   table = new CaptionTable({{.element = QStringLiteral("lblMuhurtha"), .head = QStringLiteral("lblMuhurthaName"), .strong = true},
@@ -65,10 +66,6 @@ EvilMuhurthaView::EvilMuhurthaView(QWidget *parent)
   exactHead->setContentsMargins(10, 4, 10, 0);
   exactHead->hide();
   stripTitle->setText(tr("From sunrise to sunset"));
-  stripTitle->setProperty("role", QStringLiteral("head"));
-  QFont bold = stripTitle->font();
-  bold.setBold(true);
-  stripTitle->setFont(bold);
 
   auto *times = new Card;
   times->Body()->addWidget(exactHead);
