@@ -8,6 +8,7 @@
 
 #include "analysis/EvilMuhurthaPage.h"
 #include "analysis/SelvaniDailyMod.h"
+#include "analysis/TimeText.h"
 #include "content/SetFonts.h"
 #include "content/Theme.h"
 #include "content/pages/CaptionTable.h"
@@ -28,8 +29,8 @@ enum Item { Times, Strip, Rest };  // of the page, from the top
 // The house rule's day from sunrise to sunset, in minutes of the clock.
 SpanStrip::Span HouseDay(const clsPlanets &chart, const QDateTime &moment) {
   SpanStrip::Span day;
-  day.from = PeriodClock::MinutesOfDay(chart.SunRiseTime());
-  day.to = PeriodClock::MinutesOfDay(chart.SunSetTime());
+  day.from = MinuteOfDay(chart.SunRiseTime());
+  day.to = MinuteOfDay(chart.SunSetTime());
   day.moment = moment.time().hour() * 60 + moment.time().minute();
   day.momentWord = PeriodClock::Word(moment);
   return day;
@@ -115,8 +116,8 @@ void EvilMuhurthaView::Fill(SelvaniDailyMod &session) {
     table->Cell(row, Mark).setText(now ? day.momentWord : QString());
     table->SetTone(row, Mark, CaptionTable::Tone::Warn);
     table->SetTone(row, Name, CaptionTable::Tone::Bad);
-    const double begin = page.exact ? period.begins : PeriodClock::MinutesOfDay(period.startClock);
-    const double end = page.exact ? period.ends : PeriodClock::MinutesOfDay(endClock);
+    const double begin = page.exact ? period.begins : MinuteOfDay(period.startClock);
+    const double end = page.exact ? period.ends : MinuteOfDay(endClock);
     spoken << tr("%1 from %2 to %3").arg(period.head, period.start, period.end);
     if (begin >= end) continue;
     day.parts.push_back({begin, end, period.head, SpanStrip::Tone::Bad, {}, tr("%1 to %2").arg(period.start, period.end)});
