@@ -20,6 +20,9 @@ void SetFolder(const QString &folder);
 // name: the element's name, such as "flpCharts" or "page09".
 QIcon Picture(const QString &name, State state = State::Normal);
 
+// A drawing from elsewhere, in the colours of the theme too. path: of the SVG.
+QIcon PictureAt(const QString &path);
+
 // The button's three pictures of the name.
 void Dress(ImageButton &button, const QString &name);
 
