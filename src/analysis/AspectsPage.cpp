@@ -125,3 +125,10 @@ AspectsPage FillAspects(const clsPlanets &chart) {
   page.lblWesternHead = StudyWord(chart, "WesternCodes");
   return page;
 }
+
+QString AspectsPage::HelpOf(size_t kind) const {
+  if (kind != Western) return kindHelp[kind];
+  QStringList names;
+  for (const Code &code : codes) names << code.code + QLatin1Char(' ') + code.name;
+  return kindHelp[kind] + QLatin1Char(' ') + names.join(QStringLiteral(", ")) + QLatin1Char('.');
+}

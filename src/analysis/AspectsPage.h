@@ -42,6 +42,9 @@ struct AspectsPage {
   std::vector<Code> codes;  // the Western ones
   QString lblPlanetHead, lblDignityHead, lblStandingHead, lblCombustHead, lblSeesHead, lblSeenByHead, lblWithHead, lblByDegreesHead,
       lblWesternHead;
+
+  // What a grid's figures mean, with the Western codes at theirs.
+  QString HelpOf(size_t kind) const;
 };
 
 AspectsPage FillAspects(const clsPlanets &chart);

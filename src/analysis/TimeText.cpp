@@ -7,10 +7,14 @@
 #include "engine/Functions.h"
 #include "engine/clsPlanets.h"
 
-QString TimeText(double clock) {
+int MinuteOfDay(double clock) {
   constexpr int day = 24 * 60;
   const int total = static_cast<int>(std::round(clsPlanets::MinToDec(clock) * 60));
-  const int minutes = (total % day + day) % day;
+  return (total % day + day) % day;
+}
+
+QString TimeText(double clock) {
+  const int minutes = MinuteOfDay(clock);
   const int hour = minutes / 60;
   return QStringLiteral("%1:%2%3").arg(QString::number(hour), Functions::Two(minutes % 60),
                                        hour < 12 ? QStringLiteral(" AM") : QStringLiteral(" PM"));

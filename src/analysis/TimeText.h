@@ -8,5 +8,8 @@
 // An hour of 24 or more comes back by 24; the hour is not put on a 12-hour clock: 18.15 gives "18:15 PM".
 QString TimeText(double clock);
 
+// The minute of the day, 0 to 1439, that TimeText shows.
+int MinuteOfDay(double clock);
+
 // Two clock numbers joined by "-"; the end is start + span in clock arithmetic.
 QString TimeRangeText(double startClock, double span);

@@ -25,6 +25,9 @@ struct UpagrahasPage {
   QString lblNameHead, lblRashiHead, lblDegreesHead, lblNakHead, lblPadaHead;
   QString chosenWord;
   QString lblJaimini;  // the atmakaraka with its sign, and the karakamsa, the arudha lagna and the upapada
+
+  // With a word at the chosen one.
+  QString TitleOf(const Mode &mode) const { return mode.chosen ? QStringLiteral("%1 (%2)").arg(mode.title, chosenWord) : mode.title; }
 };
 
 UpagrahasPage FillUpagrahas(const clsPlanets &chart);

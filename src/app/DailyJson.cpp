@@ -9,20 +9,13 @@
 #include "analysis/PredictionPages.h"
 #include "analysis/SelvaniDailyMod.h"
 #include "app/ExactOutput.h"
+#include "app/JsonEach.h"
 #include "app/StudyJson.h"
 #include "panchang/DailyYogas.h"
 
 namespace {
 
 constexpr int Points = 12;  // planets beside the ascendant
-
-// An array of one answer for each index from first to last.
-template <typename Answer>
-QJsonArray Each(int first, int last, Answer answer) {
-  QJsonArray array;
-  for (int index = first; index <= last; ++index) array.append(answer(index));
-  return array;
-}
 
 QString IsoText(const QDateTime &moment) { return moment.toString(QStringLiteral("yyyy-MM-ddTHH:mm:ss")); }
 

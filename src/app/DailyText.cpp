@@ -5,12 +5,16 @@
 #include "analysis/PlanetTablePage.h"
 #include "analysis/PredictionPages.h"
 #include "analysis/SelvaniDailyMod.h"
+#include "app/TerminalText.h"
+
+using TerminalText::Paragraph;
+using TerminalText::Rule;
 
 namespace {
 
-QString Cell(const QString &text, int width) { return text.leftJustified(width); }
+constexpr int Width = 78;  // letters a line
 
-QString Rule(const QString &title) { return QStringLiteral("\n%1\n%2\n").arg(title, QString(title.size(), QLatin1Char('-'))); }
+QString Cell(const QString &text, int width) { return text.leftJustified(width); }
 
 QString Pair(const QString &head, const QString &value) { return QStringLiteral("  %1%2").arg(Cell(head, 14), value); }
 
@@ -47,23 +51,6 @@ QString Opening(SelvaniDailyMod &session) {
 
 QString PageTitle(const clsPlanets &words, const char *key) { return words.GetHeadValue(11, QLatin1String(key), QStringLiteral("Gen")); }
 
-// A paragraph broken between words; a word longer than a line keeps a line of its own.
-QString Wrapped(const QString &paragraph) {
-  constexpr int width = 78, indent = 2;
-  QString text, line;
-  const auto endLine = [&] {
-    if (!line.isEmpty()) text += QString(indent, QLatin1Char(' ')) + line + QLatin1Char('\n');
-    line.clear();
-  };
-  for (const QString &word : paragraph.simplified().split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
-    if (!line.isEmpty() && indent + line.size() + 1 + word.size() > width) endLine();
-    if (!line.isEmpty()) line += QLatin1Char(' ');
-    line += word;
-  }
-  endLine();
-  return text;
-}
-
 }  // namespace
 
 QString DailyText(SelvaniDailyMod &session) {
@@ -72,7 +59,7 @@ QString DailyText(SelvaniDailyMod &session) {
 
   QString text = Opening(session);
   text += Rule(page.lblTodPanchang);
-  if (page.IsExact()) text += Wrapped(page.lblExactHead);
+  if (page.IsExact()) text += Paragraph(page.lblExactHead, Width);
   const int month = clsPlanets::VikramiMonth(today.PlanetLongi(1), today.clsPerson().GetBirthDate());
   text += Pairs(page.lblDayHead, page.lblDayVal, page.lblSunRiseHead, page.lblSunriseVal);
   text += Pairs(page.lblTithiHead, page.lblTithiVal, page.lblSunSetHead, page.lblSunsetVal);
@@ -92,13 +79,13 @@ QString DailyReading(SelvaniDailyMod &session) {
   QString text = Opening(session);
   for (const PredictionFamily &family : PredictionFamilies()) {
     text += Rule(PageTitle(today, family.titleKey));
-    for (const PredictionPage::Line &line : FillPredictionPage(family.page, birth, today).lines) text += Wrapped(line.text);
+    for (const PredictionPage::Line &line : FillPredictionPage(family.page, birth, today).lines) text += Paragraph(line.text, Width);
   }
   const PredictionPage yogas = ShowYogas(today);
   if (!yogas.lines.empty()) text += Rule(PageTitle(today, "YogaResults"));
   for (const PredictionPage::Line &line : yogas.lines) {
     if (line.isHead && &line != &yogas.lines.front()) text += QLatin1Char('\n');
-    text += line.isHead ? line.text + QLatin1Char('\n') : Wrapped(line.text);
+    text += line.isHead ? line.text + QLatin1Char('\n') : Paragraph(line.text, Width);
   }
   return text;
 }

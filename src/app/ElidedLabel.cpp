@@ -55,7 +55,8 @@ void ElidedLabel::paintEvent(QPaintEvent *) {
   }
   layout.endLayout();
   const bool cut = !shown.isEmpty() && shown.last().endsWith(QChar(0x2026));
-  if (toolTip().isEmpty() == cut) setToolTip(cut ? whole : QString());
+  const QString tip = cut ? whole : QString();
+  if (toolTip() != tip) setToolTip(tip);
 
   const int height = lineHeight * static_cast<int>(shown.size());
   int y = room.top() + (room.height() - height) / 2;

@@ -3,7 +3,6 @@
 #include "app/ExactOutput.h"
 
 #include <QDateTime>
-#include <QJsonArray>
 #include <QRegularExpression>
 
 #include "analysis/ExactDayPage.h"
@@ -11,36 +10,26 @@
 #include "analysis/ExactWords.h"
 #include "analysis/MonthIcs.h"
 #include "analysis/MonthPage.h"
+#include "app/JsonEach.h"
+#include "app/TerminalText.h"
 #include "engine/clsPlanets.h"
 #include "platform/Errors.h"
 #include "platform/FileTools.h"
 
+using TerminalText::Paragraph;
+using TerminalText::Rule;
+
 namespace {
 
+constexpr int Width = 80;  // letters a line
 constexpr const char *PeriodNames[] = {"RahuKaal", "Yamaghanta", "Gulika", "DurMuhurta", "Varjyam", "Abhijit", "BrahmaMuhurta", "Amrita"};
 constexpr const char *CourseNames[] = {"usual", "skipped", "repeated", "again"};
 constexpr const char *StateNames[] = {"happens", "stays below", "stays above", "not today"};
-
-QString Rule(const QString &title) { return QStringLiteral("\n%1\n%2\n").arg(title, QString(title.size(), QLatin1Char('-'))); }
 
 QString Line(const QString &text) {
   QString line = QStringLiteral("  ") + text;
   while (line.endsWith(QLatin1Char(' '))) line.chop(1);
   return line + QLatin1Char('\n');
-}
-
-// Broken between words, so that no line is wider than a terminal.
-QString Paragraph(const QString &text) {
-  constexpr int width = 78;
-  QString lines, line;
-  for (const QString &word : text.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
-    if (!line.isEmpty() && line.size() + 1 + word.size() > width) {
-      lines += Line(line);
-      line.clear();
-    }
-    line += (line.isEmpty() ? QString() : QStringLiteral(" ")) + word;
-  }
-  return lines + Line(line);
 }
 
 // A limb's remark takes a line of its own.
@@ -81,13 +70,6 @@ class Moments {
   const ExactZone &zone;
 };
 
-template <typename Items, typename Answer>
-QJsonArray Each(const Items &items, Answer answer) {
-  QJsonArray array;
-  for (const auto &item : items) array.append(answer(item));
-  return array;
-}
-
 QJsonObject StateObject(const ExactDay &day) {
   const auto name = [](const SkyEvent &event) { return QLatin1String(StateNames[static_cast<size_t>(event.state)]); };
   return {{"sunrise", name(day.sunrise)},
@@ -118,7 +100,7 @@ namespace ExactOutput {
 
 QString Text(const clsPlanets &todayChart) {
   const ExactDayPage page = FillExactDay(todayChart);
-  QString text = page.title + QLatin1Char('\n') + Paragraph(page.lblExactDesc) + QLatin1Char('\n');
+  QString text = page.title + QLatin1Char('\n') + Paragraph(page.lblExactDesc, Width) + QLatin1Char('\n');
   for (const ExactDayPage::Fact &fact : page.facts) text += Line(fact.head.leftJustified(28) + fact.value);
   const auto title = [&](const char *key) { return Rule(todayChart.GetHeadValue(1, QLatin1String(key), QStringLiteral("Exact"))); };
   text += title("LimbHead") + Rows(page.limbs, true);
@@ -196,7 +178,7 @@ QJsonObject Json(const clsPlanets &todayChart) {
 
 QString MonthText(const clsPlanets &todayChart, const QDate &month) {
   const MonthPage page = FillMonth(todayChart, month.year(), month.month());
-  QString text = page.title + QLatin1Char('\n') + Paragraph(page.subtitle) + QLatin1Char('\n');
+  QString text = page.title + QLatin1Char('\n') + Paragraph(page.subtitle, Width) + QLatin1Char('\n');
   int column = page.firstColumn;
   for (const MonthPage::Cell &cell : page.cells) {
     const QString weekday = page.weekdays[column++ % 7].left(3);

@@ -30,9 +30,7 @@ HeaderCard::HeaderCard(const char *mainName, const char *secondName, const char 
   row->addLayout(lines, 1);
   button = new ImageButton(this);
   button->setObjectName(buttonName);
-  button->SetNormalPic(Skin::Picture(QLatin1String(buttonName)));
-  button->SetHoverPic(Skin::Picture(QLatin1String(buttonName), Skin::State::Hover));
-  button->SetDownPic(Skin::Picture(QLatin1String(buttonName), Skin::State::Down));
+  Skin::Dress(*button, QLatin1String(buttonName));
   button->setFixedSize(30, 30);
   connect(button, &QAbstractButton::clicked, this, &HeaderCard::Opened);
   row->addWidget(button);

@@ -28,9 +28,7 @@ NavigationColumn::NavigationColumn(const QList<Entry> &entries, QWidget *parent)
     line->setContentsMargins(14, 0, 8, 0);
     auto *button = new ImageButton(row);
     button->setObjectName(name);
-    button->SetNormalPic(Skin::Picture(name));
-    button->SetHoverPic(Skin::Picture(name, Skin::State::Hover));
-    button->SetDownPic(Skin::Picture(name, Skin::State::Down));
+    Skin::Dress(*button, name);
     button->setText(entry.text);
     button->SetTextBeside(true);
     button->setAccessibleName(entry.text);

@@ -9,6 +9,7 @@
 #include "analysis/ScoresPage.h"
 #include "analysis/UpagrahasPage.h"
 #include "analysis/VakyaPage.h"
+#include "app/JsonEach.h"
 #include "engine/clsPlanets.h"
 #include "platform/Errors.h"
 
@@ -18,13 +19,6 @@ constexpr int LastPoint = 12;      // the ascendant and the twelve planets
 constexpr int LastDignified = 9;   // dignity knows the Sun to Ketu
 constexpr int LastAshtakBody = 8;  // reference bodies: the ascendant, the seven planets, Rahu
 constexpr int LastUpagraha = UpagrahasPage::Points;
-
-template <typename Answer>
-QJsonArray Each(int first, int last, Answer answer) {
-  QJsonArray array;
-  for (int index = first; index <= last; ++index) array.append(answer(index));
-  return array;
-}
 
 // One row for each point, one column for each of firstOther to lastOther.
 template <typename Answer>

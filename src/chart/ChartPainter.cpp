@@ -13,9 +13,11 @@
 
 namespace {
 
-constexpr double FullSize = 320;    // the side, in screen pixels, up to which fonts keep their own size
-constexpr double Growth = 0.7;      // beyond it text grows more slowly than the chart: a large chart gains air
-constexpr double NumberWidth = 27;  // units for two digits: more would touch the diagonals of the North drawing
+constexpr double FullSize = 320;     // the side, in screen pixels, up to which fonts keep their own size
+constexpr double Growth = 0.7;       // beyond it text grows more slowly than the chart: a large chart gains air
+constexpr int SmallestText = 9;      // pixels
+constexpr double NumberScale = 0.8;  // house numbers against their font's size: they stand back behind the planets
+constexpr double NumberWidth = 27;   // units for two digits: more would touch the diagonals of the North drawing
 
 // The way from the 1000 by 1000 square to the rectangle, held clear of the edge by half the border's pen.
 struct Frame {
@@ -26,15 +28,15 @@ struct Frame {
   double borderPen;
 
   // Pens are whole numbers of the device's own dots, or level strokes blur; `dots` of them make one unit of the rectangle.
-  Frame(const ChartLayout &layout, const QRectF &target, double pixel, double dots) {
-    const double screenSide = std::min(target.width(), target.height()) / pixel;
-    const double pen = std::clamp(screenSide / 420, 1.0, 1.8) * pixel;
+  Frame(const ChartLayout &layout, const QRectF &target, double dots) {
+    const double screenSide = std::min(target.width(), target.height());
+    const double pen = std::clamp(screenSide / 420, 1.0, 1.8);
     const auto whole = [dots](double width) { return std::max(1.0, std::round(width * dots)) / dots; };
     linePen = whole(layout.lineWidth * pen * 1.15);
     borderPen = whole(layout.borderWidth * pen * 1.6);
     area = target.adjusted(borderPen / 2, borderPen / 2, -borderPen / 2, -borderPen / 2);
     unit = std::min(area.width(), area.height()) / ChartLayout::Side;
-    grow = std::pow(std::max(1.0, screenSide / FullSize), Growth) * pixel;
+    grow = std::pow(std::max(1.0, screenSide / FullSize), Growth);
   }
 
   QPointF Map(const QPointF &p) const {
@@ -48,8 +50,8 @@ struct Frame {
   }
 };
 
-int SizeOf(const QFont &font, double factor, int smallest) {
-  return std::max(smallest, static_cast<int>(std::lround(QFontInfo(font).pixelSize() * factor)));
+int SizeOf(const QFont &font, double factor) {
+  return std::max(SmallestText, static_cast<int>(std::lround(QFontInfo(font).pixelSize() * factor)));
 }
 
 // Upright and level strokes begin and end on the device's own pixels, or they blur.
@@ -73,14 +75,13 @@ QFont NumberFont(const ChartLayout &layout, int size) {
 }  // namespace
 
 ChartPainter::Texts ChartPainter::Arrange(const ChartLayout &layout, const QRectF &target, double dots) const {
-  const Frame frame(layout, target, sizes_.pixel, dots);
-  const int smallest = static_cast<int>(std::lround(sizes_.smallest * sizes_.pixel));
-  const double gap = 3 * sizes_.pixel + frame.linePen / 2;
+  const Frame frame(layout, target, dots);
+  const double gap = 3 + frame.linePen / 2;
   Texts texts;
 
   const double widest = QFontMetricsF(NumberFont(layout, 100)).horizontalAdvance(QStringLiteral("12")) / 100;
   const int fitting = static_cast<int>(NumberWidth * frame.unit / widest);
-  texts.numberSize = std::max(smallest, std::min(fitting, SizeOf(layout.houseFont, frame.grow * sizes_.numberScale, smallest)));
+  texts.numberSize = std::max(SmallestText, std::min(fitting, SizeOf(layout.houseFont, frame.grow * NumberScale)));
   const QFontMetricsF digits(NumberFont(layout, texts.numberSize));
   const double digit = digits.horizontalAdvance(QLatin1Char('0'));
   const double height = digits.tightBoundingRect(QStringLiteral("0")).height();
@@ -105,9 +106,8 @@ ChartPainter::Texts ChartPainter::Arrange(const ChartLayout &layout, const QRect
     task.shape = shape;
     task.taken = texts.numbers[index].box;
     task.gap = gap;
-    task.preferredSize = SizeOf(layout.planetFont, frame.grow, smallest);
-    task.smallestSize = smallest;
-    task.middle = sizes_.middle;
+    task.preferredSize = SizeOf(layout.planetFont, frame.grow);
+    task.smallestSize = SmallestText;
     texts.planets[index] = FittedText::Fit(task, measure);
   }
   return texts;
@@ -117,7 +117,7 @@ void ChartPainter::Paint(QPainter &painter, const ChartLayout &layout, const QRe
   const QTransform device = painter.deviceTransform();
   const bool upright = device.type() <= QTransform::TxScale && device.m11() > 0 && device.m22() > 0;
   const double dots = upright ? device.m11() : 1;
-  const Frame frame(layout, target, sizes_.pixel, dots);
+  const Frame frame(layout, target, dots);
   const Texts texts = Arrange(layout, target, dots);
   const auto snapX = [&](double x, double pen) { return upright ? Snapped(x, device.m11(), device.dx(), pen) : x; };
   const auto snapY = [&](double y, double pen) { return upright ? Snapped(y, device.m22(), device.dy(), pen) : y; };

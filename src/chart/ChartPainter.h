@@ -17,15 +17,7 @@ class QPainter;
 /// and is made smaller or set closer where a house is crowded.
 class ChartPainter {
  public:
-  struct Sizes {
-    double pixel = 1;          ///< how many units of the rectangle make one screen pixel; more than 1 on paper
-    int smallest = 9;          ///< smallest text, in screen pixels
-    bool middle = true;        ///< texts stand in the middle of their box, otherwise at its top edge
-    double numberScale = 0.8;  ///< house numbers against their font's size: they stand back behind the planets
-  };
-
-  ChartPainter(ChartPalette palette, Sizes sizes) : palette_(palette), sizes_(sizes) {}
-  explicit ChartPainter(ChartPalette palette) : ChartPainter(palette, Sizes()) {}
+  explicit ChartPainter(ChartPalette palette) : palette_(palette) {}
 
   void Paint(QPainter &painter, const ChartLayout &layout, const QRectF &target) const;
 
@@ -43,5 +35,4 @@ class ChartPainter {
 
  private:
   ChartPalette palette_;
-  Sizes sizes_;
 };

@@ -41,15 +41,10 @@ void Kundali::OnChange(const QString &property) {
   emit ChartChanged();
 }
 
-void Kundali::SetSkin(const ChartPalette &skin) {
-  skin_ = skin;
-  update();
-}
-
 QRectF Kundali::ChartRect() const { return QRectF(rect()).adjusted(FocusRoom, FocusRoom, -FocusRoom, -FocusRoom); }
 
 void Kundali::paintEvent(QPaintEvent *) {
-  const ChartPalette skin = skin_.value_or(ChartPalette::For(palette()));
+  const ChartPalette skin = ChartPalette::For(palette());
   QPainter painter(this);
   if (!isEnabled()) painter.setOpacity(0.5);
   ChartPainter(skin).Paint(painter, model_.Layout(), ChartRect());

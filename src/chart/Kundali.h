@@ -4,8 +4,6 @@
 
 #include <QWidget>
 
-#include <optional>
-
 #include "chart/ChartPalette.h"
 #include "chart/KundaliModel.h"
 #include "chart/SpokenParts.h"
@@ -24,8 +22,7 @@ class Kundali : public QWidget, public SpokenParts {
  public:
   explicit Kundali(QWidget *parent = nullptr);
 
-  /// The chart as data: its parts for the printer and the PDF, and all properties.
-  const KundaliModel &Model() const { return model_; }
+  /// The chart as data: its parts for the printer and the PDF.
   const ChartLayout &Layout() const { return model_.Layout(); }
 
   void Clear() { model_.Clear(); }
@@ -72,9 +69,6 @@ class Kundali : public QWidget, public SpokenParts {
   KundaliModel::State WriteState() const { return model_.WriteState(); }
   void ReadState(const KundaliModel::State &state) { model_.ReadState(state); }
 
-  /// Colours for good, in place of those that follow the desktop's light or dark scheme.
-  void SetSkin(const ChartPalette &skin);
-
   void SetSpokenNames(KundaliModel::SpokenNames names) { model_.SetSpokenNames(std::move(names)); }
   int PartCount() const override { return ChartLayout::Cells; }
   QString PartWords(int cell) const override { return model_.CellWords(cell); }
@@ -118,7 +112,6 @@ class Kundali : public QWidget, public SpokenParts {
   void OnChange(const QString &property);
 
   KundaliModel model_;
-  std::optional<ChartPalette> skin_;
   bool focusShown_ = false;
   bool pressedInside_ = false;
 };

@@ -110,7 +110,6 @@ class KundaliModel {
   void SetEnabled(bool enabled);
 
   /// The entry that is set apart in the accent colour; not part of the saved state.
-  QString AccentText() const { return layout_.accentText; }
   void SetAccentText(const QString &text);
 
   /// A flag that saved states may carry; the drawing never asks for it.

@@ -17,13 +17,8 @@ namespace {
 // text any more: a planet that is left out would make the chart wrong.
 constexpr int LeastSize = 5;
 
-struct Span {
-  double left = 0;
-  double right = 0;
-};
-
 // The room of a line that lies between two heights.
-using Room = std::function<Span(double top, double bottom)>;
+using Room = std::function<LevelSpan(double top, double bottom)>;
 using Words = std::vector<FittedText::Word>;
 
 Words WordsOf(const FittedText::Task &task) {
@@ -42,7 +37,7 @@ std::optional<Words> Flow(const Words &words, int size, const TextMeasure &measu
   size_t next = 0;
   for (double y = top; next < set.size(); y += height) {
     if (y + height > bottom + 0.01) return std::nullopt;
-    const Span span = room(y, y + height);
+    const LevelSpan span = room(y, y + height);
     const size_t first = next;
     double used = 0;
     while (next < set.size()) {
@@ -61,38 +56,17 @@ std::optional<Words> Flow(const Words &words, int size, const TextMeasure &measu
   return set;
 }
 
-// Where a horizontal line crosses a convex polygon; an empty span outside it.
-Span Across(const QPolygonF &shape, double y) {
-  Span span{std::numeric_limits<double>::max(), std::numeric_limits<double>::lowest()};
-  const auto include = [&span](double x) {
-    span.left = std::min(span.left, x);
-    span.right = std::max(span.right, x);
-  };
-  for (qsizetype i = 0; i < shape.size(); ++i) {
-    const QPointF a = shape[i];
-    const QPointF b = shape[(i + 1) % shape.size()];
-    if (y < std::min(a.y(), b.y()) || y > std::max(a.y(), b.y())) continue;
-    if (a.y() == b.y()) {
-      include(a.x());
-      include(b.x());
-    } else {
-      include(a.x() + (b.x() - a.x()) * (y - a.y()) / (b.y() - a.y()));
-    }
-  }
-  return span;
-}
-
 Room BoxRoom(const QRectF &box) {
-  return [box](double, double) { return Span{box.left(), box.right()}; };
+  return [box](double, double) { return LevelSpan{box.left(), box.right()}; };
 }
 
 Room CellRoom(const FittedText::Task &task) {
   return [&task](double top, double bottom) {
-    const Span above = Across(task.shape, top);
-    const Span below = Across(task.shape, bottom);
+    const LevelSpan above = SpanAt(task.shape, top);
+    const LevelSpan below = SpanAt(task.shape, bottom);
     // A slanted side comes nearer than the gap measured along the line.
     const double gap = task.gap * std::sqrt(2.0);
-    Span span{std::max(above.left, below.left) + gap, std::min(above.right, below.right) - gap};
+    LevelSpan span{std::max(above.left, below.left) + gap, std::min(above.right, below.right) - gap};
     if (!task.taken.isEmpty() && top < task.taken.bottom() && bottom > task.taken.top()) {
       if (task.taken.center().x() < task.shape.boundingRect().center().x()) {
         span.left = std::max(span.left, task.taken.right() + task.gap);
@@ -133,6 +107,26 @@ std::optional<Words> FitCell(const Words &words, int size, const FittedText::Tas
 
 }  // namespace
 
+LevelSpan SpanAt(const QPolygonF &shape, double y) {
+  LevelSpan span{std::numeric_limits<double>::max(), std::numeric_limits<double>::lowest()};
+  const auto include = [&span](double x) {
+    span.left = std::min(span.left, x);
+    span.right = std::max(span.right, x);
+  };
+  for (qsizetype i = 0; i < shape.size(); ++i) {
+    const QPointF a = shape[i];
+    const QPointF b = shape[(i + 1) % shape.size()];
+    if (y < std::min(a.y(), b.y()) || y > std::max(a.y(), b.y())) continue;
+    if (a.y() == b.y()) {
+      include(a.x());
+      include(b.x());
+    } else {
+      include(a.x() + (b.x() - a.x()) * (y - a.y()) / (b.y() - a.y()));
+    }
+  }
+  return span;
+}
+
 FittedText FittedText::Fit(const Task &task, const TextMeasure &measure) {
   const Words words = WordsOf(task);
   if (words.empty()) return {};
@@ -144,7 +138,7 @@ FittedText FittedText::Fit(const Task &task, const TextMeasure &measure) {
   for (int size = preferred; size >= LeastSize; --size) {
     if (auto set = FitCell(words, size, task, measure)) return {size, std::move(*set)};
   }
-  const auto limitless = [&task](double, double) { return Span{task.box.center().x() - 1e6, task.box.center().x() + 1e6}; };
+  const auto limitless = [&task](double, double) { return LevelSpan{task.box.center().x() - 1e6, task.box.center().x() + 1e6}; };
   return {LeastSize, *Flow(words, LeastSize, measure, limitless, task.box.top(), std::numeric_limits<double>::max())};
 }
 

@@ -38,5 +38,14 @@ struct FittedText {
   static FittedText Fit(const Task &task, const TextMeasure &measure);
 };
 
+/// A part of a level line.
+struct LevelSpan {
+  double left = 0;
+  double right = 0;
+};
+
+/// Where the level line at `y` enters and leaves a convex polygon; where it passes by, the left end lies right of the right one.
+LevelSpan SpanAt(const QPolygonF &shape, double y);
+
 /// Moves a rectangle by the least way that keeps it `gap` inside a convex polygon; a cell too small for it keeps its best place.
 QRectF PushInside(QRectF rectangle, const QPolygonF &shape, double gap);

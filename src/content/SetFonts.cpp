@@ -8,10 +8,15 @@
 #include "chart/Kundali.h"
 #include "engine/clsPlanets.h"
 
-QFont SetFonts::Face(int points, bool bold) {
+QFont SetFonts::Face(double points) {
   QFont font;
   font.setFamilies({QStringLiteral("Arial"), QStringLiteral("Liberation Sans")});
-  font.setPointSize(points > 0 ? points : 10);
+  font.setPointSizeF(points > 0 ? points : 10);
+  return font;
+}
+
+QFont SetFonts::Face(double points, bool bold) {
+  QFont font = Face(points);
   font.setBold(bold);
   return font;
 }

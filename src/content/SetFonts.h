@@ -35,8 +35,10 @@ class SetFonts {
   // Asked of the chart's words once in a run: a language that is chosen later keeps the signs of the first.
   static QString GetSymbol(int kind, const clsPlanets &chart);
 
- private:
-  static QFont Face(int points, bool bold);
+  // The one face of the program, as bold as what it is set in, or as told.
+  static QFont Face(double points);
+  static QFont Face(double points, bool bold);
 
+ private:
   LanguageRow language;
 };

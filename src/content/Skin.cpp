@@ -3,7 +3,6 @@
 #include "content/Skin.h"
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QHash>
 #include <QIconEngine>
 #include <QPainter>
@@ -11,7 +10,9 @@
 #include <QSvgRenderer>
 #include <memory>
 
+#include "chart/ImageButton.h"
 #include "content/Theme.h"
+#include "platform/FileTools.h"
 
 namespace {
 
@@ -33,12 +34,6 @@ QByteArray InTheme(QByteArray drawing) {
     drawing.replace(QByteArray(light).toLower(), dark.name().toLatin1());
   }
   return drawing;
-}
-
-QByteArray FileOf(const QString &name, Skin::State state) {
-  const char *suffix = state == Skin::State::Hover ? "-hover" : state == Skin::State::Down ? "-down" : "";
-  QFile file(QStringLiteral("%1/%2%3.svg").arg(Folder(), name, QLatin1String(suffix)));
-  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 QByteArray InOneInk(QByteArray drawing, const QColor &ink) {
@@ -86,13 +81,8 @@ class DrawingEngine : public QIconEngine {
   QHash<std::pair<int, int>, QPixmap> pixmaps;  // by width and height, as last drawn
 };
 
-}  // namespace
-
-namespace Skin {
-
-void SetFolder(const QString &folder) { Folder() = folder; }
-
-QIcon Picture(const QString &name, State state) {
+// inOneInk: in the colour of the words on a primary button.
+QIcon DrawingAt(const QString &path, bool inOneInk) {
   // Pages ask for their pictures each time they are filled: a drawing is read once for each theme.
   static QHash<QString, QIcon> pictures = [] {
     qAddPostRoutine([] { pictures.clear(); });  // pixmaps end before the application does
@@ -100,18 +90,36 @@ QIcon Picture(const QString &name, State state) {
   }();
   const ChartPalette &colours = Theme::Current().chart;
   const QString key =
-      QStringLiteral("%1/%2/%3/%4/%5").arg(Folder(), name).arg(static_cast<int>(state)).arg(colours.ink.name(), colours.saffron.name());
+      QStringLiteral("%1/%2/%3/%4").arg(path, QLatin1String(inOneInk ? "1" : "0"), colours.ink.name(), colours.saffron.name());
   const auto known = pictures.constFind(key);
   if (known != pictures.cend()) return *known;
-  const QByteArray drawing = FileOf(name, state);
+  const QByteArray drawing = ReadFileIfAny(path);
   if (drawing.isEmpty()) return {};
   const Theme &theme = Theme::Current();
-  const bool onPrimary = state == State::OnPrimary;
-  auto renderer = std::make_shared<QSvgRenderer>(onPrimary ? InOneInk(drawing, theme.OnPrimary()) : InTheme(drawing));
+  auto renderer = std::make_shared<QSvgRenderer>(inOneInk ? InOneInk(drawing, theme.OnPrimary()) : InTheme(drawing));
   if (!renderer->isValid()) return {};
   // A primary button that is disabled has a pale ground, and its words the muted ink.
-  auto disabled = onPrimary ? std::make_shared<QSvgRenderer>(InOneInk(drawing, theme.chart.muted)) : nullptr;
+  auto disabled = inOneInk ? std::make_shared<QSvgRenderer>(InOneInk(drawing, theme.chart.muted)) : nullptr;
   return *pictures.insert(key, QIcon(new DrawingEngine(std::move(renderer), std::move(disabled))));
+}
+
+}  // namespace
+
+namespace Skin {
+
+void SetFolder(const QString &folder) { Folder() = folder; }
+
+QIcon Picture(const QString &name, State state) {
+  const char *suffix = state == State::Hover ? "-hover" : state == State::Down ? "-down" : "";
+  return DrawingAt(QStringLiteral("%1/%2%3.svg").arg(Folder(), name, QLatin1String(suffix)), state == State::OnPrimary);
+}
+
+QIcon PictureAt(const QString &path) { return DrawingAt(path, false); }
+
+void Dress(ImageButton &button, const QString &name) {
+  button.SetNormalPic(Picture(name));
+  button.SetHoverPic(Picture(name, State::Hover));
+  button.SetDownPic(Picture(name, State::Down));
 }
 
 QPixmap Pixmap(const QString &name, const QSize &size, qreal devicePixelRatio) { return Picture(name).pixmap(size, devicePixelRatio); }

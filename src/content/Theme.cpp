@@ -3,14 +3,12 @@
 #include "content/Theme.h"
 
 #include <QApplication>
-#include <QFont>
 #include <QPalette>
 
+#include "content/SetFonts.h"
 #include "content/pages/PageScroll.h"
 
-namespace {
-
-Theme Light() {
+Theme Theme::Light() {
   Theme theme;
   theme.chart = ChartPalette::Light();
   theme.good = QColor(0x3F, 0x6B, 0x46);
@@ -22,6 +20,8 @@ Theme Light() {
   theme.edge = QColor(0x8D, 0x80, 0x71);
   return theme;
 }
+
+namespace {
 
 Theme Dark() {
   Theme theme;
@@ -46,7 +46,7 @@ void Strengthen(Theme &theme) {
 }
 
 Theme &Chosen() {
-  static Theme theme = Light();
+  static Theme theme = Theme::Light();
   return theme;
 }
 
@@ -79,14 +79,12 @@ void Theme::Apply(QApplication &application, const DesktopScheme &scheme, const 
   palette.setColor(QPalette::ToolTipText, theme.chart.ink);
   application.setPalette(palette);
   // The language's own sizes come with its pages; this is the face of everything around them.
-  QFont face;
-  face.setFamilies({QStringLiteral("Arial"), QStringLiteral("Liberation Sans")});
-  face.setPointSizeF(10);
-  QApplication::setFont(face);
+  QApplication::setFont(SetFonts::Face(10));
   application.setStyleSheet(theme.StyleSheet(skinFolder));
 }
 
-// Roles of widgets are told by the dynamic property "role": card, title, head, caption, value, bad, good, primary.
+// Roles of widgets are told by the dynamic property "role". Frames: card, rule, header, headercard, navrow; words: brand, title,
+// head, caption, good, bad, warn, step, and value, which has the ink; buttons: primary, link, headlink; lists: headercard.
 QString Theme::StyleSheet(const QString &skinFolder) const {
   QString sheet = QStringLiteral(R"(
     QMainWindow, QDialog { background: @paper; }

@@ -24,6 +24,7 @@ struct Theme {
   QColor OnPrimary() const { return dark ? chart.paper : chart.card; }
 
   static const Theme &Current();
+  static Theme Light();  // whatever the desktop has, for paper
 
   // Dresses the whole program in the scheme; in high contrast rules are as strong as words, and no word is muted.
   // skinFolder: holds the pictures inside controls, a list's arrow and a tick; without it they are plain.

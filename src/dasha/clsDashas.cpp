@@ -11,19 +11,18 @@ namespace {
 
 constexpr double CycleYears = 120;
 constexpr double NakshatraSpan = 13.333333333333334;
-constexpr int Years = 1;  // the unit of AddDecValToDate
 constexpr int Moon = 7;
 constexpr int Deepest = 5;
 
 const std::array<QString, Deepest> LevelNames{QStringLiteral("Mahadasha"), QStringLiteral("Antardasha"), QStringLiteral("Pratyantara"),
                                               QStringLiteral("SookshmaDasha"), QStringLiteral("Prana")};
 
-QDateTime AddYears(const QDateTime &date, double years) {
-  int unit = Years;
+}  // namespace
+
+QDateTime clsDashas::AddYears(const QDateTime &date, double years) {
+  int unit = 1;  // years
   return clsPlanets::AddDecValToDate(years, unit, date);
 }
-
-}  // namespace
 
 clsDashas::clsDashas(std::function<const clsPlanets &()> birthChart, std::function<QDateTime()> analysisMoment)
     : birth(std::move(birthChart)), moment(std::move(analysisMoment)) {}

@@ -37,6 +37,10 @@ class clsDashas {
   // Shorter when a level starts at or after the moment itself.
   QString CalcCurrentDasha(const clsPlanets &chart);
 
+  // The end of a period that begins at the date and takes so many years.
+  static QDateTime AddYears(const QDateTime &date, double years);
+  static QDateTime EndOf(const DashaPeriod &period) { return AddYears(period.Start, period.Length); }
+
   int Level() const { return level; }  // 1 Mahadasha to 5 Prana; 0 before the first
   const DashaLevel &Records() const { return records; }
   const DashaPage &Page() const { return page; }

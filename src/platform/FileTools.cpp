@@ -40,6 +40,11 @@ QByteArray ReadWholeFile(const QString &path) {
   return content;
 }
 
+QByteArray ReadFileIfAny(const QString &path) {
+  QFile file(path);
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
 void WriteWholeFile(const QString &path, const QByteArray &content) {
   const QString folder = QFileInfo(path).absolutePath();
   if (!QDir().mkpath(folder)) {

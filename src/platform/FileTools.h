@@ -10,6 +10,9 @@
 /// @throws StoreError that names the file
 QByteArray ReadWholeFile(const QString &path);
 
+/// The same for what can be done without: empty where there is no such file or it cannot be read.
+QByteArray ReadFileIfAny(const QString &path);
+
 /// Writes aside and renames, so that the file is the old one or the new one and never half of each. Makes the folder when needed.
 /// @throws StoreError that names the file, which is then as it was
 void WriteWholeFile(const QString &path, const QByteArray &content);

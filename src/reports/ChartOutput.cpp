@@ -8,6 +8,7 @@
 #include <functional>
 #include <limits>
 
+#include "chart/TextFit.h"
 #include "platform/PdfBox.h"
 #include "platform/PrinterService.h"
 
@@ -57,25 +58,6 @@ struct Walk {
   }
 };
 
-// Where a level line enters and leaves a convex polygon.
-struct Span {
-  double left = std::numeric_limits<double>::max();
-  double right = std::numeric_limits<double>::lowest();
-};
-
-Span Across(const QPolygonF &shape, double y) {
-  Span span;
-  for (qsizetype i = 0; i < shape.size(); ++i) {
-    const QPointF a = shape[i], b = shape[(i + 1) % shape.size()];
-    if (y < std::min(a.y(), b.y()) || y > std::max(a.y(), b.y())) continue;
-    const bool level = a.y() == b.y();
-    const double x = level ? a.x() : a.x() + (b.x() - a.x()) * (y - a.y()) / (b.y() - a.y());
-    span.left = std::min({span.left, x, level ? b.x() : x});
-    span.right = std::max({span.right, x, level ? b.x() : x});
-  }
-  return span;
-}
-
 // One line from `corner` on: its font is the largest, up to the given one, with which it ends inside its cell, narrow where that
 // alone does not do; a house number keeps its size. A text whose corner lies on a line begins with a blank.
 struct OneLine {
@@ -92,7 +74,7 @@ struct OneLine {
       for (font.size = narrow ? std::min(full.size, LargestNarrow) : full.size; font.size >= least; font.size -= 0.25) {
         printer.SetFont(font);
         const double top = corner.y() + printer.TextHeight() * 0.2, bottom = corner.y() + printer.TextHeight() * 0.8;
-        const Span above = Across(cell, top), below = Across(cell, bottom);
+        const LevelSpan above = SpanAt(cell, top), below = SpanAt(cell, bottom);
         text = corner.x() < std::max(above.left, below.left) + LeftGap ? QLatin1Char(' ') + caption : caption;
         if (keepSize || corner.x() + printer.TextWidth(text) <= std::min({above.right, below.right, limit}) - SideGap) return;
       }

@@ -28,6 +28,9 @@ bool PageExport::Print(QWidget &page, QPrinter &printer) {
   QtPrinterService service(printer);
   service.SetLandscape(form.landscape);
   const bool printed = clsPrintMaker(service).PrintForm(form);
-  service.EndDoc();
+  if (printed)
+    service.EndDoc();
+  else
+    service.Abort();
   return printed;
 }

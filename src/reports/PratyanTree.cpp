@@ -27,8 +27,7 @@ void AddParts(PratyanPeriod &whole, double years, int position, const clsPlanets
     part.name = words.PlanetNameFull(part.lord);
     part.begin = begin;
     const double length = years * (clsPlanets::GetVimSotPeriods(part.lord).value_or(0) / CycleYears);
-    int unit = 1;
-    part.end = begin = clsPlanets::AddDecValToDate(length, unit, begin);
+    part.end = begin = clsDashas::AddYears(begin, length);
     part.running = whole.running && part.begin < moment && moment <= part.end;
     if (part.level < Deepest) AddParts(part, length, position, words, moment);
     whole.parts.push_back(std::move(part));
@@ -49,8 +48,7 @@ void PratyanTree::FindPratyantara(const clsPlanets &birthChart, const QDateTime 
     period.lord = record.Lord;
     period.name = birthChart.PlanetNameFull(record.Lord);
     period.begin = record.Start;
-    int unit = 1;
-    period.end = clsPlanets::AddDecValToDate(record.Length, unit, record.Start);
+    period.end = clsDashas::EndOf(record);
     period.running = period.begin < moment && moment <= period.end;
     AddParts(period, record.Length, record.Position, birthChart, moment);
     periods_.push_back(std::move(period));

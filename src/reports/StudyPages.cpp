@@ -115,8 +115,7 @@ void clsDailyPrinter::PrintUpagrahas() {
     double y = TopMargin + Inches(TableTop + 0.1);
     for (const UpagrahasPage::Mode &mode : page.modes) {
       using Row = UpagrahasPage::Row;
-      const QString title = mode.chosen ? QStringLiteral("%1 (%2)").arg(mode.title, page.chosenWord) : mode.title;
-      PlaceText(title, LeftMargin, y, Across::Left, Down::Middle, {QLatin1String(NormFont), 11, true});
+      PlaceText(page.TitleOf(mode), LeftMargin, y, Across::Left, Down::Middle, {QLatin1String(NormFont), 11, true});
       const Table table{
           {{.head = page.lblNameHead, .cells = ColumnOf(mode.rows, &Row::lblUpaName), .share = 1.4, .strong = true},
            {.head = page.lblRashiHead, .cells = ColumnOf(mode.rows, &Row::lblUpaRashi)},
@@ -171,13 +170,7 @@ void clsDailyPrinter::PrintAspectGrids(const AspectsPage &page) {
       if (row == column - 1) return Diagonal;
       return page.grid[row][column - 1].text[kind].isEmpty() ? White : Marked;
     };
-    QString help = page.kindHelp[kind];
-    if (kind == AspectsPage::Western) {
-      QStringList codes;
-      for (const AspectsPage::Code &code : page.codes) codes << code.code + QLatin1Char(' ') + code.name;
-      help += QLatin1Char(' ') + codes.join(QStringLiteral(", ")) + QLatin1Char('.');
-    }
-    y = PrintNote(help, PrintTable(table, y)) + Inches(0.15);
+    y = PrintNote(page.HelpOf(kind), PrintTable(table, y)) + Inches(0.15);
   }
 }
 

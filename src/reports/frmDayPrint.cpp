@@ -3,7 +3,6 @@
 #include "reports/frmDayPrint.h"
 
 #include <QDir>
-#include <QFileDialog>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QMessageBox>
@@ -18,6 +17,7 @@
 #include <QVBoxLayout>
 
 #include "platform/ReportError.h"
+#include "platform/gui/AskSaveFile.h"
 #include "platform/gui/QtPrinterService.h"
 #include "reports/DailyReport.h"
 
@@ -59,12 +59,12 @@ frmDayPrint::Services frmDayPrint::OwnServices() {
       report_.Print(service, topics, progress.get());
     } catch (const ReportCancelled &) {
       service.Abort();
+      return false;
     }
+    return true;
   };
   services.askFile = [this](const QString &suggested) {
-    QString file = QFileDialog::getSaveFileName(this, tr("Save as PDF"), suggested, tr("PDF documents (*.pdf)"));
-    if (!file.isEmpty() && QFileInfo(file).suffix().isEmpty()) file += QStringLiteral(".pdf");
-    return file;
+    return AskSaveFile(this, tr("Save as PDF"), suggested, tr("PDF documents (*.pdf)"), QStringLiteral("pdf"));
   };
   services.offerPdf = [this](const QString &question) {
     return QMessageBox::question(this, windowTitle(), question, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes) == QMessageBox::Yes;
@@ -169,7 +169,7 @@ void frmDayPrint::Print() {
   } else {
     try {
       const WaitPointer wait;
-      services_.print(Topics());
+      if (!services_.print(Topics())) return;
     } catch (const ReportError &error) {
       fault = error.Sentence();
       printer_.reset();  // the next one begins with a printer that may be back

@@ -23,7 +23,7 @@ class frmDayPrint : public QDialog {
   /// What it meets outside; a test puts its own in their place.
   struct Services {
     std::function<bool()> hasPrinter;                             ///< is there any?
-    std::function<void(const ReportTopics &)> print;              ///< on paper; throws ReportError
+    std::function<bool(const ReportTopics &)> print;              ///< on paper; false where it was stopped; throws ReportError
     std::function<QString(const QString &suggested)> askFile;     ///< empty for none
     std::function<bool(const QString &question)> offerPdf;        ///< after a printer failed
     std::function<void(const QString &sentence, bool bad)> tell;  ///< in a message

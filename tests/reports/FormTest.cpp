@@ -5,12 +5,15 @@
 
 #include <QGridLayout>
 #include <QLabel>
+#include <QPrinter>
+#include <QTemporaryDir>
 #include <QTextEdit>
 #include <cmath>
 
 #include "chart/Kundali.h"
 #include "platform/Notices.h"
 #include "reports/ChartOutput.h"
+#include "reports/PageExport.h"
 #include "reports/RecordingPrinter.h"
 #include "reports/ScreenForm.h"
 #include "reports/clsPDFExporter.h"
@@ -117,6 +120,22 @@ TEST(PrintMaker, ShapesComeFirstAndEverythingStandsAFifthOfAThousandLower) {
   EXPECT_FALSE(paper.Find("never"));
   ASSERT_EQ(notices.Seen().size(), 1u);
   EXPECT_EQ(notices.Seen()[0].title, "Erro Printing!");
+}
+
+TEST(PageExport, TellsAPrinterThatTakesNoPage) {
+  const NoticeRecorder notices;
+  const QTemporaryDir folder;
+  QWidget page;
+  auto *label = new QLabel("words", &page);
+  label->resize(100, 20);
+  QPrinter printer;
+  printer.setOutputFormat(QPrinter::PdfFormat);
+  for (const bool works : {false, true}) {
+    printer.setOutputFileName(folder.filePath(works ? "page.pdf" : "nowhere/page.pdf"));
+    EXPECT_EQ(PageExport::Print(page, printer), works);
+    EXPECT_EQ(notices.Seen().size(), 1u);
+  }
+  EXPECT_NE(printer.printerState(), QPrinter::Active);
 }
 
 TEST(PdfExporter, PagesBecomeTenthsOfAMillimetre) {

@@ -80,14 +80,16 @@ TEST_F(PdfReportTest, TopicsFollowTheirRootAndTheRootStays) {
   DailyReport report = Report();
   int printed = 0, asked = 0;
   QStringList told;
-  bool printer = true, fails = false;
+  bool printer = true, fails = false, stops = false;
   frmDayPrint::Services services;
   services.hasPrinter = [&] { return printer; };
   services.print = [&](const ReportTopics &topics) {
     if (fails) throw ReportError(QStringLiteral("The printer is gone."));
+    if (stops) return false;
     ++printed;
     EXPECT_FALSE(topics.Has("Journey"));
     EXPECT_TRUE(topics.Has("Rashifala"));
+    return true;
   };
   services.askFile = [&](const QString &suggested) {
     EXPECT_TRUE(suggested.endsWith("Anvik Telvar 2026-11-21.pdf"));
@@ -112,6 +114,10 @@ TEST_F(PdfReportTest, TopicsFollowTheirRootAndTheRootStays) {
   root->child(8)->setCheckState(0, Qt::Unchecked);
   EXPECT_EQ(root->checkState(0), Qt::Checked);
   form.show();
+  stops = true;
+  QTest::mouseClick(form.findChild<QPushButton *>("cmdPrint"), Qt::LeftButton);
+  EXPECT_TRUE(form.isVisible()) << "a print that was stopped leaves the topics there";
+  stops = false;
   QTest::mouseClick(form.findChild<QPushButton *>("cmdPrint"), Qt::LeftButton);
   EXPECT_EQ(printed, 1);
   EXPECT_FALSE(form.isVisible());

@@ -4,11 +4,16 @@
 #include <gtest/gtest.h>
 
 #include <QFile>
+#include <QFileDialog>
 #include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPrinter>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <set>
 
 #include "analysis/ExactDayPage.h"
@@ -23,8 +28,11 @@
 #include "content/pages/MonthGrid.h"
 #include "content/pages/MonthView.h"
 #include "content/pages/OverviewView.h"
+#include "content/pages/PagePdf.h"
 #include "platform/AppPaths.h"
 #include "platform/Notices.h"
+#include "platform/ReportError.h"
+#include "platform/gui/AskSaveFile.h"
 
 namespace {
 
@@ -169,6 +177,59 @@ TEST_F(ExactScreens, WalkThroughTheMonths) {
   EXPECT_EQ(Content(folder.filePath("November 2026.pdf")).count("/Type /Page\n"), 1);
   EXPECT_TRUE(Content(folder.filePath("November 2026.ics")).startsWith("BEGIN:VCALENDAR"));
   EXPECT_TRUE(notices.Seen().empty());
+}
+
+// In a window narrower than its words, too, a tool that reads the screen finds a day where the pointer does.
+TEST_F(ExactScreens, TellTheRoomOfADayWhereItIsPainted) {
+  for (const int width : {700, 200}) {
+    MonthGrid grid;
+    grid.SetPage(FillMonth(session.TodayChart(), 2026, 11));
+    grid.resize(width, 300);
+    grid.resize(width, grid.minimumHeight());
+    for (int day = 0; day < grid.PartCount(); ++day) {
+      QTest::mouseClick(&grid, Qt::LeftButton, {}, grid.PartRoom(day).bottomRight() - QPoint(4, 4));
+      EXPECT_EQ(grid.Chosen(), QDate(2026, 11, 1).addDays(day)) << "at " << width;
+    }
+  }
+}
+
+// A name typed without its ending is that of a file all the same, and the file is not replaced unasked.
+TEST_F(ExactScreens, AskBeforeAFileIsReplaced) {
+  const QString held = folder.filePath("held.pdf");
+  QFile file(held);
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.close();
+  for (const auto answer : {QMessageBox::No, QMessageBox::Yes}) {
+    QString question;
+    bool typed = false;
+    QTimer user;
+    QObject::connect(&user, &QTimer::timeout, [&] {
+      QWidget *open = QApplication::activeModalWidget();
+      if (auto *box = qobject_cast<QMessageBox *>(open)) {
+        question = box->text();
+        box->button(answer)->click();
+      } else if (auto *dialog = qobject_cast<QFileDialog *>(open); dialog && !typed) {
+        typed = true;
+        dialog->findChild<QLineEdit *>("fileNameEdit")->setText("held");
+        QMetaObject::invokeMethod(dialog, "accept", Qt::QueuedConnection);
+      } else if (dialog && !question.isEmpty()) {
+        dialog->reject();
+      }
+    });
+    user.start(5);
+    const QString chosen = AskSaveFile(nullptr, "Save", folder.filePath("day.pdf"), "PDF (*.pdf)", "pdf");
+    EXPECT_TRUE(question.contains("held.pdf")) << question.toStdString();
+    EXPECT_EQ(chosen, answer == QMessageBox::Yes ? held : QString());
+  }
+}
+
+TEST_F(ExactScreens, TellOfAPrinterThatTakesNoPage) {
+  QPrinter printer;
+  printer.setOutputFormat(QPrinter::PdfFormat);
+  printer.setOutputFileName(folder.filePath("nowhere/day.pdf"));
+  bool painted = false;
+  EXPECT_THROW(PagePdf::PaintSheet(printer, [&](QPainter &, const QRectF &) { painted = true; }), ReportError);
+  EXPECT_FALSE(painted);
 }
 
 TEST_F(ExactScreens, TellExactTimesAndSaySo) {

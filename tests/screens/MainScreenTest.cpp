@@ -457,6 +457,16 @@ TEST_F(MainScreen, ShowsTheWholeMomentOnASmallScreen) {
   EXPECT_LE(rahuKaal->fontMetrics().horizontalAdvance(rahuKaal->text()), rahuKaal->width()) << "on one line";
 }
 
+TEST(ElidedLabelTip, IsTheTextThatIsCutNow) {
+  ElidedLabel label;
+  label.resize(60, 20);
+  for (const char *text : {"Saturday, 21 November 2026 at Jaipur", "Sunday, 22 November 2026 at Jaipur", "Jaipur"}) {
+    label.setText(text);
+    label.grab();
+    EXPECT_EQ(label.toolTip(), label.text().size() > 10 ? label.text() : QString());
+  }
+}
+
 TEST(SetFontsSymbols, ALaterLanguageKeepsThoseOfTheFirst) {
   class Tongue : public TextDb {
    public:

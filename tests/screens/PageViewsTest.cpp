@@ -15,6 +15,7 @@
 #include <functional>
 
 #include "analysis/SelvaniDailyMod.h"
+#include "analysis/TimeText.h"
 #include "content/Languages.h"
 #include "content/SetFonts.h"
 #include "content/pages/ChogadiyaView.h"
@@ -175,6 +176,13 @@ TEST(PeriodClockTest, HoldsFromStartUpToEnd) {
                {23.30, 0.50, 23, 30, true}, {23.30, 0.50, 0, 50, false}, {23.30, 24.50, 0, 49, true}, {9.0, 9.0, 9, 0, false}};
   for (const auto &c : cases)
     EXPECT_EQ(PeriodClock::Holds(c.start, c.end, QTime(c.hour, c.minute)), c.holds) << c.start << " " << c.hour << ":" << c.minute;
+  // Half minutes too are taken to the minute that stands on the page.
+  for (int thousandth = 0; thousandth < 600; thousandth += 5) {
+    const double clock = 6 + thousandth / 1000.0;
+    const QTime shown = QTime::fromString(TimeText(clock).section(QLatin1Char(' '), 0, 0), "H:mm");
+    EXPECT_TRUE(PeriodClock::Holds(clock, clock + 1, shown)) << clock;
+    EXPECT_FALSE(PeriodClock::Holds(clock, clock + 1, shown.addSecs(-60))) << clock;
+  }
   EXPECT_EQ(PeriodClock::Word(QDateTime(QDate(2020, 3, 1), QTime(9, 5), Qt::UTC)), "at 9:05");
 }
 

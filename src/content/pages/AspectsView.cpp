@@ -13,17 +13,13 @@
 #include "content/pages/Card.h"
 #include "content/pages/CardHead.h"
 #include "content/pages/CellGrid.h"
+#include "content/pages/DignityTone.h"
 #include "content/pages/PageScroll.h"
 
 namespace {
 
 enum SignColumn { Planet, Dignity, Standing, Combust, Sees, SeenBy, With };
 enum DegreeColumn { DegreePlanet, ByDegrees, Western };
-
-CaptionTable::Tone ToneOfDignity(const QString &mark) {
-  if (mark == QLatin1String("Debi")) return CaptionTable::Tone::Bad;
-  return mark.isEmpty() ? CaptionTable::Tone::Plain : CaptionTable::Tone::Good;
-}
 
 }  // namespace
 
@@ -122,13 +118,7 @@ void AspectsView::ShowGrid(const AspectsPage &page) {
       if (row == column) cell.setText({});
     }
   }
-  QString help = page.kindHelp[kind];
-  if (kind == AspectsPage::Western) {
-    QStringList codes;
-    for (const AspectsPage::Code &code : page.codes) codes << code.code + QLatin1Char(' ') + code.name;
-    help += QLatin1Char(' ') + codes.join(QStringLiteral(", ")) + QLatin1Char('.');
-  }
-  lblAspectHelp->setText(help);
+  lblAspectHelp->setText(page.HelpOf(kind));
 }
 
 void AspectsView::ApplyFonts(const SetFonts &fonts) {

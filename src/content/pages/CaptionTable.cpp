@@ -3,9 +3,9 @@
 #include "content/pages/CaptionTable.h"
 
 #include <QPainter>
-#include <QStyle>
 #include <algorithm>
 
+#include "content/Role.h"
 #include "content/SetFonts.h"
 #include "content/Theme.h"
 #include "content/pages/SelectableLabel.h"
@@ -31,13 +31,6 @@ const char *RoleOf(CaptionTable::Tone tone) {
 QColor GroundOf(const QString &role) {
   const Theme &theme = Theme::Current();
   return role == QLatin1String("good") ? theme.goodBack : role == QLatin1String("bad") ? theme.badBack : theme.selection;
-}
-
-void SetRole(QWidget &widget, const char *role) {
-  if (widget.property("role").toString() == QLatin1String(role)) return;
-  widget.setProperty("role", QString::fromLatin1(role));
-  widget.style()->unpolish(&widget);
-  widget.style()->polish(&widget);
 }
 
 QLabel *MakeLabel(QWidget *parent, const QString &name, const char *role, bool bold, Qt::Alignment alignment, bool wrap) {

@@ -46,7 +46,6 @@ class CaptionTable : public QWidget, public SpokenTable {
 
   // -1: none.
   void SetRunningRow(int row);
-  int RunningRow() const { return running; }
 
   // Rows of the full height always, for a table of few rows.
   void SetRoomy();

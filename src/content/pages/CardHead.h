@@ -4,16 +4,22 @@
 
 #include <QLabel>
 
-// The bold maroon line over a card's content, in line with the text of its tables.
-inline QLabel *MakeCardHead(const QString &element) {
+// A bold maroon line over other words.
+inline QLabel *MakeHead(const QString &element) {
   auto *head = new QLabel;
   head->setObjectName(element);
   head->setProperty("role", QStringLiteral("head"));
-  head->setContentsMargins(10, 4, 10, 0);
-  head->setWordWrap(true);
   QFont font = head->font();
   font.setBold(true);
   head->setFont(font);
+  return head;
+}
+
+// The same over a card's content, in line with the text of its tables.
+inline QLabel *MakeCardHead(const QString &element) {
+  QLabel *head = MakeHead(element);
+  head->setContentsMargins(10, 4, 10, 0);
+  head->setWordWrap(true);
   return head;
 }
 

@@ -28,7 +28,6 @@ class CellGrid : public QWidget, public SpokenTable {
   void SetGround(int row, int column, const QColor &colour);
   // -1: none.
   void SetRunningRow(int row);
-  int RunningRow() const { return running; }
 
   void ApplyFonts(const SetFonts &fonts);
 

@@ -6,6 +6,7 @@
 
 #include "analysis/ChogadiyaPage.h"
 #include "analysis/SelvaniDailyMod.h"
+#include "analysis/TimeText.h"
 #include "content/pages/ExactSpan.h"
 #include "content/pages/PeriodClock.h"
 #include "panchang/Periods.h"
@@ -57,7 +58,7 @@ void ChogadiyaView::Fill(SelvaniDailyMod &session) {
   SpanStrip::Span day;
   if (page.exact) day = ExactSpan::OfDay(*page.exact, momentWord);
   // By the house rule the axis is the clock's and runs on past midnight, as the night does.
-  double place = page.exact ? 0 : day.from = PeriodClock::MinutesOfDay(page.rows[0].startClock);
+  double place = page.exact ? 0 : day.from = MinuteOfDay(page.rows[0].startClock);
   for (int row = 0; row < static_cast<int>(page.rows.size()); ++row) {
     const auto i = static_cast<size_t>(row);
     const ChogadiyaPage::Row &period = page.rows[i];

@@ -15,22 +15,14 @@
 #include "content/Skin.h"
 #include "content/Theme.h"
 #include "content/pages/Card.h"
+#include "content/pages/CardHead.h"
 #include "content/pages/DashaRow.h"
 #include "content/pages/PageScroll.h"
 #include "content/pages/SpanStrip.h"
 
-namespace {
-
-QDateTime EndOf(const DashaPeriod &period) {
-  int years = 1;
-  return clsPlanets::AddDecValToDate(period.Length, years, period.Start);
-}
-
-}  // namespace
-
 DashaView::DashaView(QWidget *parent)
     : PageView(parent),
-      levelHeading(new QLabel),
+      levelHeading(MakeHead(QStringLiteral("lblVimLevel"))),
       pathHeading(new QLabel),
       status(new QLabel),
       up(new ImageButton),
@@ -38,11 +30,6 @@ DashaView::DashaView(QWidget *parent)
       strip(new SpanStrip) {
   setObjectName(QStringLiteral("framVimsot"));
   setAccessibleName(tr("Vimshottari dasha"));
-  levelHeading->setObjectName(QStringLiteral("lblVimLevel"));
-  levelHeading->setProperty("role", QStringLiteral("head"));
-  QFont bold = levelHeading->font();
-  bold.setBold(true);
-  levelHeading->setFont(bold);
   pathHeading->setObjectName(QStringLiteral("lblVimPath"));
   pathHeading->setProperty("role", QStringLiteral("caption"));
   status->setObjectName(QStringLiteral("lblVimStatus"));
@@ -52,9 +39,7 @@ DashaView::DashaView(QWidget *parent)
   up->setText(tr("Up"));
   up->setAccessibleName(tr("One level up"));
   up->SetToolTip(tr("One level up (Backspace)"));
-  up->SetNormalPic(Skin::Picture(QStringLiteral("fflpUp")));
-  up->SetHoverPic(Skin::Picture(QStringLiteral("fflpUp"), Skin::State::Hover));
-  up->SetDownPic(Skin::Picture(QStringLiteral("fflpUp"), Skin::State::Down));
+  Skin::Dress(*up, QStringLiteral("fflpUp"));
   connect(up, &QAbstractButton::clicked, this, &DashaView::GoUp);
   tree->setObjectName(QStringLiteral("flpDashaTree"));
   tree->setText(tr("Tree..."));
@@ -144,7 +129,7 @@ void DashaView::ShowLevel() {
   const QDateTime &moment = session->AnalysisMoment();
   for (size_t i = 0; i < rows.size(); ++i) {
     const DashaPeriod &period = dashas.Records()[i];
-    const QDateTime end = i + 1 < rows.size() ? dashas.Records()[i + 1].Start : EndOf(period);
+    const QDateTime end = i + 1 < rows.size() ? dashas.Records()[i + 1].Start : clsDashas::EndOf(period);
     rows[i]->setText(page.lblVimElement[i]);
     rows[i]->updateGeometry();
     if (moment < period.Start) {
@@ -165,10 +150,10 @@ void DashaView::ShowStrip() {
   const DashaLevel &records = session->DashaCalc().Records();
   SpanStrip::Span span;
   span.from = double(records.front().Start.toSecsSinceEpoch());
-  span.to = double(EndOf(records.back()).toSecsSinceEpoch());
+  span.to = double(clsDashas::EndOf(records.back()).toSecsSinceEpoch());
   span.moment = double(session->AnalysisMoment().toSecsSinceEpoch());
   // As fine as the strip: a day where it spans years, the hour only where it spans days.
-  const qint64 length = records.front().Start.daysTo(EndOf(records.back()));
+  const qint64 length = records.front().Start.daysTo(clsDashas::EndOf(records.back()));
   span.momentWord = session->AnalysisMoment().toString(length > 3 ? QStringLiteral("d MMM yyyy") : QStringLiteral("d MMM, H:mm"));
   const auto caption = [&](const QDateTime &date) {
     return date.toString(length > 3000 ? QStringLiteral("yyyy") : length > 60 ? QStringLiteral("M/yyyy") : QStringLiteral("d/M"));
@@ -179,7 +164,7 @@ void DashaView::ShowStrip() {
     span.parts.push_back({begin, end, session->BirthChart().PlanetName(records[i].Lord), SpanStrip::Tone::Plain});
     span.ticks.push_back({begin, caption(records[i].Start)});
   }
-  span.ticks.push_back({span.to, caption(EndOf(records.back()))});
+  span.ticks.push_back({span.to, caption(clsDashas::EndOf(records.back()))});
   strip->SetSpan(std::move(span));
 }
 

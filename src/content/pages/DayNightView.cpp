@@ -8,6 +8,7 @@
 #include "content/SetFonts.h"
 #include "content/Theme.h"
 #include "content/pages/Card.h"
+#include "content/pages/CardHead.h"
 #include "content/pages/PageScroll.h"
 #include "content/pages/SideBySide.h"
 
@@ -27,13 +28,8 @@ DayNightView::DayNightView(const Names &names, std::vector<CaptionTable::Column>
   std::array<Card *, 2> cards{};
   for (size_t half = 0; half < 2; ++half) {
     cards[half] = new Card;
-    titles[half] = new QLabel;
-    titles[half]->setObjectName(names.titles[half]);
-    titles[half]->setProperty("role", QStringLiteral("head"));
+    titles[half] = MakeHead(names.titles[half]);
     titles[half]->setContentsMargins(10, 4, 10, 0);
-    QFont font = titles[half]->font();
-    font.setBold(true);
-    titles[half]->setFont(font);
     columns[static_cast<size_t>(timeColumn)].head = names.timeHeads[half];
     tables[half] = new CaptionTable(columns, halfRows, static_cast<int>(half) * halfRows);
     cards[half]->Body()->addWidget(titles[half]);

@@ -8,10 +8,12 @@
 
 #include "analysis/EvilMuhurthaPage.h"
 #include "analysis/SelvaniDailyMod.h"
+#include "analysis/TimeText.h"
 #include "content/SetFonts.h"
 #include "content/Theme.h"
 #include "content/pages/CaptionTable.h"
 #include "content/pages/Card.h"
+#include "content/pages/CardHead.h"
 #include "content/pages/ExactSpan.h"
 #include "content/pages/PageScroll.h"
 #include "content/pages/PeriodClock.h"
@@ -27,8 +29,8 @@ enum Item { Times, Strip, Rest };  // of the page, from the top
 // The house rule's day from sunrise to sunset, in minutes of the clock.
 SpanStrip::Span HouseDay(const clsPlanets &chart, const QDateTime &moment) {
   SpanStrip::Span day;
-  day.from = PeriodClock::MinutesOfDay(chart.SunRiseTime());
-  day.to = PeriodClock::MinutesOfDay(chart.SunSetTime());
+  day.from = MinuteOfDay(chart.SunRiseTime());
+  day.to = MinuteOfDay(chart.SunSetTime());
   day.moment = moment.time().hour() * 60 + moment.time().minute();
   day.momentWord = PeriodClock::Word(moment);
   return day;
@@ -40,7 +42,7 @@ constexpr const char *Elements[4] = {"lblKulik", "lblKalBl", "lblYamGhan", "lblK
 }  // namespace
 
 EvilMuhurthaView::EvilMuhurthaView(QWidget *parent)
-    : PageView(parent), description(new QLabel), exactHead(new QLabel), stripTitle(new QLabel), strip(new SpanStrip) {
+    : PageView(parent), description(new QLabel), exactHead(new QLabel), stripTitle(MakeHead({})), strip(new SpanStrip) {
   setObjectName(QStringLiteral("framKulik"));
   setAccessibleName(tr("Periods of the day to keep clear of"));
   table = new CaptionTable({{.element = QStringLiteral("lblMuhurtha"), .head = QStringLiteral("lblMuhurthaName"), .strong = true},
@@ -65,10 +67,6 @@ EvilMuhurthaView::EvilMuhurthaView(QWidget *parent)
   exactHead->setContentsMargins(10, 4, 10, 0);
   exactHead->hide();
   stripTitle->setText(tr("From sunrise to sunset"));
-  stripTitle->setProperty("role", QStringLiteral("head"));
-  QFont bold = stripTitle->font();
-  bold.setBold(true);
-  stripTitle->setFont(bold);
 
   auto *times = new Card;
   times->Body()->addWidget(exactHead);
@@ -118,8 +116,8 @@ void EvilMuhurthaView::Fill(SelvaniDailyMod &session) {
     table->Cell(row, Mark).setText(now ? day.momentWord : QString());
     table->SetTone(row, Mark, CaptionTable::Tone::Warn);
     table->SetTone(row, Name, CaptionTable::Tone::Bad);
-    const double begin = page.exact ? period.begins : PeriodClock::MinutesOfDay(period.startClock);
-    const double end = page.exact ? period.ends : PeriodClock::MinutesOfDay(endClock);
+    const double begin = page.exact ? period.begins : MinuteOfDay(period.startClock);
+    const double end = page.exact ? period.ends : MinuteOfDay(endClock);
     spoken << tr("%1 from %2 to %3").arg(period.head, period.start, period.end);
     if (begin >= end) continue;
     day.parts.push_back({begin, end, period.head, SpanStrip::Tone::Bad, {}, tr("%1 to %2").arg(period.start, period.end)});

@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "content/SetFonts.h"
 #include "content/pages/DayTimelinePaint.h"
 
 namespace {
@@ -17,8 +18,7 @@ class Sheet {
  public:
   Sheet(QPainter &sheetPainter, const QRectF &sheetRoom, const ExactDayPage &dayPage, double points)
       : painter(sheetPainter), room(sheetRoom), page(dayPage), inks(PaintInks::Paper()) {
-    font.setFamilies({QStringLiteral("Arial"), QStringLiteral("Liberation Sans")});
-    font.setPointSizeF(points);
+    font = SetFonts::Face(points);
     bold = font;
     bold.setBold(true);
     title = bold;

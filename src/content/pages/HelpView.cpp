@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "content/pages/HelpView.h"
 
-#include <QFile>
 #include <QTextBrowser>
 #include <QTextFrame>
 #include <QVBoxLayout>
@@ -11,6 +10,8 @@
 #include "content/SetFonts.h"
 #include "content/Theme.h"
 #include "content/pages/PageScroll.h"
+#include "platform/Errors.h"
+#include "platform/FileTools.h"
 
 namespace {
 
@@ -44,12 +45,12 @@ HelpView::HelpView(const QString &path, QWidget *parent) : PageView(parent), fil
 void HelpView::Fill(SelvaniDailyMod &) { Load(); }
 
 void HelpView::Load() {
-  QFile text(file);
   browser->document()->setDefaultStyleSheet(Sheet());
-  if (text.open(QIODevice::ReadOnly))
-    browser->setHtml(QString::fromUtf8(text.readAll()));
-  else
+  try {
+    browser->setHtml(QString::fromUtf8(ReadWholeFile(file)));
+  } catch (const StoreError &) {
     browser->setPlainText(tr("The help file '%1' is missing. Please re-install the program.").arg(file));
+  }
   FitMeasure();
 }
 

@@ -6,6 +6,7 @@
 
 #include "analysis/HoraPage.h"
 #include "analysis/SelvaniDailyMod.h"
+#include "analysis/TimeText.h"
 #include "content/pages/ExactSpan.h"
 #include "content/pages/PeriodClock.h"
 
@@ -21,7 +22,7 @@ constexpr int HouseHora = 60;  // minutes
 // The house rule's day as an axis that runs on past midnight.
 SpanStrip::Span HouseDay(const HoraPage &page, const QDateTime &moment, bool beforeSunrise) {
   SpanStrip::Span day;
-  day.from = PeriodClock::MinutesOfDay(page.rows[0].startClock);
+  day.from = MinuteOfDay(page.rows[0].startClock);
   day.to = day.from + HouseHora * static_cast<int>(page.rows.size());
   day.ticks = SpanStrip::HourTicks(static_cast<int>(day.from), static_cast<int>(day.to));
   day.moment = beforeSunrise ? -1 : moment.time().hour() * 60 + moment.time().minute();

@@ -76,10 +76,7 @@ void MonthGrid::Choose(int index) {
   update();
 }
 
-QRect MonthGrid::PartRoom(int day) const {
-  const MonthPaint paint(page, font(), const_cast<MonthGrid *>(this), width());
-  return paint.Cells(rect())[static_cast<size_t>(day)].toRect();
-}
+QRect MonthGrid::PartRoom(int day) const { return Drawing().Cells(rect())[static_cast<size_t>(day)].toRect(); }
 
 void MonthGrid::PressPart(int day) {
   Choose(day);

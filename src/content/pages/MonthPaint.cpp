@@ -6,6 +6,8 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "content/SetFonts.h"
+
 namespace {
 
 constexpr int Columns = 7;
@@ -154,10 +156,7 @@ void MonthPaint::PaintCell(QPainter &painter, const QRectF &at, const MonthPage:
 
 void MonthPaint::PaintSheet(QPainter &painter, const QRectF &room, const MonthPage &page) {
   const PaintInks inks = PaintInks::Paper();
-  QFont face;
-  face.setFamilies({QStringLiteral("Arial"), QStringLiteral("Liberation Sans")});
-  face.setPointSizeF(15);
-  face.setBold(true);
+  QFont face = SetFonts::Face(15, true);
   painter.save();
   painter.setFont(face);
   painter.setPen(inks.maroon);

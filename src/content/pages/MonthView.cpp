@@ -12,6 +12,7 @@
 #include "content/SetFonts.h"
 #include "content/Theme.h"
 #include "content/pages/Card.h"
+#include "content/pages/CardHead.h"
 #include "content/pages/MonthGrid.h"
 #include "content/pages/MonthPaint.h"
 #include "content/pages/PagePdf.h"
@@ -26,18 +27,14 @@ constexpr int ExactDayPageNumber = 36;
 
 }  // namespace
 
-MonthView::MonthView(QWidget *parent) : PageView(parent), title(new QLabel), subtitle(new QLabel), grid(new MonthGrid) {
+MonthView::MonthView(QWidget *parent)
+    : PageView(parent), title(MakeHead(QStringLiteral("lblMonthTitle"))), subtitle(new QLabel), grid(new MonthGrid) {
   setObjectName(QStringLiteral("framMonth"));
   setAccessibleName(tr("The month"));
   askFile = [this](const QString &suggested) {
     const bool pdf = suggested.endsWith(QStringLiteral(".pdf"));
     return PagePdf::AskFile(this, tr("Save the month"), suggested, pdf ? tr("PDF (*.pdf)") : tr("Calendar (*.ics)"));
   };
-  title->setObjectName(QStringLiteral("lblMonthTitle"));
-  title->setProperty("role", QStringLiteral("head"));
-  QFont bold = title->font();
-  bold.setBold(true);
-  title->setFont(bold);
   subtitle->setObjectName(QStringLiteral("lblMonthDesc"));
   subtitle->setProperty("role", QStringLiteral("caption"));
   subtitle->setWordWrap(true);

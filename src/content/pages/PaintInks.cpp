@@ -6,7 +6,8 @@
 
 namespace {
 
-PaintInks From(const ChartPalette &chart) {
+PaintInks From(const Theme &theme) {
+  const ChartPalette &chart = theme.chart;
   PaintInks inks;
   inks.card = chart.card;
   inks.line = chart.line;
@@ -14,9 +15,12 @@ PaintInks From(const ChartPalette &chart) {
   inks.muted = chart.muted;
   inks.maroon = chart.maroon;
   inks.saffron = chart.saffron;
-  inks.accent = chart.accent;
   inks.gold = chart.gold;
   inks.accent = chart.accent;
+  inks.good = theme.good;
+  inks.goodBack = theme.goodBack;
+  inks.bad = theme.bad;
+  inks.badBack = theme.badBack;
   // The night is darker than the card, on a dark ground too.
   const bool dark = chart.card.lightness() < 128;
   inks.day = ChartPalette::Mixed(chart.card, chart.gold, dark ? 0.16 : 0.11);
@@ -26,22 +30,10 @@ PaintInks From(const ChartPalette &chart) {
 
 }  // namespace
 
-PaintInks PaintInks::Screen() {
-  const Theme &theme = Theme::Current();
-  PaintInks inks = From(theme.chart);
-  inks.good = theme.good;
-  inks.goodBack = theme.goodBack;
-  inks.bad = theme.bad;
-  inks.badBack = theme.badBack;
-  return inks;
-}
+PaintInks PaintInks::Screen() { return From(Theme::Current()); }
 
 PaintInks PaintInks::Paper() {
-  PaintInks inks = From(ChartPalette::Light());
+  PaintInks inks = From(Theme::Light());
   inks.card = Qt::white;
-  inks.good = QColor(0x3F, 0x6B, 0x46);
-  inks.goodBack = QColor(0xE3, 0xEF, 0xE2);
-  inks.bad = QColor(0x9C, 0x3A, 0x34);
-  inks.badBack = QColor(0xF8, 0xE4, 0xE1);
   return inks;
 }

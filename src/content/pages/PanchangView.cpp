@@ -9,6 +9,7 @@
 #include "content/SetFonts.h"
 #include "content/pages/CaptionTable.h"
 #include "content/pages/Card.h"
+#include "content/pages/CardHead.h"
 #include "content/pages/PageScroll.h"
 #include "content/pages/SideBySide.h"
 
@@ -21,13 +22,8 @@ PanchangView::PanchangView(QWidget *parent) : PageView(parent) {
   std::array<Card *, 2> cards{};
   for (size_t half = 0; half < 2; ++half) {
     cards[half] = new Card;
-    titles[half] = new QLabel;
-    titles[half]->setObjectName(names[half][0]);
-    titles[half]->setProperty("role", QStringLiteral("head"));
+    titles[half] = MakeHead(names[half][0]);
     titles[half]->setContentsMargins(10, 4, 10, 4);
-    QFont font = titles[half]->font();
-    font.setBold(true);
-    titles[half]->setFont(font);
     columns[half] = new CaptionTable({{.element = names[half][1], .caption = true}, {.element = names[half][2], .strong = true}},
                                      static_cast<int>(PanchangPage::Rows));
     cards[half]->Body()->addWidget(titles[half]);

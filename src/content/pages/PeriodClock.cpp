@@ -5,7 +5,7 @@
 #include <QCoreApplication>
 #include <cmath>
 
-#include "engine/clsPlanets.h"
+#include "analysis/TimeText.h"
 
 namespace PeriodClock {
 namespace {
@@ -18,19 +18,13 @@ int MinutesOf(const QTime &time) { return time.hour() * 60 + time.minute(); }
 
 }  // namespace
 
-int MinutesOfDay(double clock) {
-  const double minutes = std::round(clsPlanets::MinToDec(clock) * 60 * 1e6) / 1e6;
-  const int total = static_cast<int>(std::floor(minutes + 0.5));
-  return (total % Day + Day) % Day;
-}
-
-int Minutes(double startClock, double endClock) { return (MinutesOfDay(endClock) - MinutesOfDay(startClock) + Day) % Day; }
+int Minutes(double startClock, double endClock) { return (MinuteOfDay(endClock) - MinuteOfDay(startClock) + Day) % Day; }
 
 bool Holds(double startClock, double endClock, const QTime &time) {
-  return (MinutesOf(time) - MinutesOfDay(startClock) + Day) % Day < Minutes(startClock, endClock);
+  return (MinutesOf(time) - MinuteOfDay(startClock) + Day) % Day < Minutes(startClock, endClock);
 }
 
-bool IsBeforeSunrise(double sunriseClock, const QTime &time) { return MinutesOf(time) < MinutesOfDay(sunriseClock); }
+bool IsBeforeSunrise(double sunriseClock, const QTime &time) { return MinutesOf(time) < MinuteOfDay(sunriseClock); }
 
 QString Word(const QDateTime &moment) {
   // Moments are kept as a plain calendar, so the machine's clock is read as one too.

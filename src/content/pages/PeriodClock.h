@@ -5,13 +5,10 @@
 #include <QDateTime>
 #include <QString>
 
-// Which period of a day runs at a moment, on the times as they are shown.
+// Which period of a day runs at a moment. Times are clock numbers (hh.mm), taken to the minute that the page shows.
 namespace PeriodClock {
 
-// Minutes of the day, 0 to 1439, of a clock number (hh.mm), to the minute that the page shows.
-int MinutesOfDay(double clock);
-
-// Minutes from one clock number up to the next time that it shows the other, 0 to 1439.
+// Minutes from the start up to the next time that the clock shows the end, 0 to 1439.
 int Minutes(double startClock, double endClock);
 
 // Whether the moment's time lies from start up to end; a period may run past midnight.

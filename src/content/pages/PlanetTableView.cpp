@@ -8,16 +8,12 @@
 #include "analysis/SelvaniDailyMod.h"
 #include "content/pages/CaptionTable.h"
 #include "content/pages/Card.h"
+#include "content/pages/DignityTone.h"
 #include "content/pages/PageScroll.h"
 
 namespace {
 
 enum Column { Symbol, Planet, Rashi, Degrees, Nak, NakLord, Pada, Motion, State };
-
-CaptionTable::Tone ToneOfDignity(const QString &mark) {
-  if (mark == QLatin1String("Debi")) return CaptionTable::Tone::Bad;
-  return mark.isEmpty() ? CaptionTable::Tone::Plain : CaptionTable::Tone::Good;
-}
 
 }  // namespace
 

@@ -10,6 +10,7 @@
 #include <QWheelEvent>
 #include <algorithm>
 
+#include "content/SetFonts.h"
 #include "content/Theme.h"
 
 namespace {
@@ -17,14 +18,6 @@ namespace {
 constexpr int HeadPoints = 12, BodyPoints = 10;
 constexpr int Measure = 75;  // characters a line
 constexpr int LeastZoom = -3, MostZoom = 14;
-
-QFont Face(int points, bool bold) {
-  QFont font;
-  font.setFamilies({QStringLiteral("Arial"), QStringLiteral("Liberation Sans")});
-  font.setPointSize(points);
-  font.setBold(bold);
-  return font;
-}
 
 }  // namespace
 
@@ -76,7 +69,7 @@ void RichTextView::Write(const Piece &piece) {
   const Theme &theme = Theme::Current();
   const int points = (piece.head ? HeadPoints : BodyPoints) + zoom;
   QTextCharFormat letters;
-  letters.setFont(Face(points, piece.head));
+  letters.setFont(SetFonts::Face(points, piece.head));
   letters.setForeground(piece.head ? theme.chart.maroon : theme.chart.ink);
   QTextBlockFormat block;
   block.setLineHeight(140, QTextBlockFormat::ProportionalHeight);
@@ -94,7 +87,7 @@ void RichTextView::Write(const Piece &piece) {
 }
 
 void RichTextView::FitMeasure() {
-  const int measure = QFontMetrics(Face(BodyPoints + zoom, false)).averageCharWidth() * Measure;
+  const int measure = QFontMetrics(SetFonts::Face(BodyPoints + zoom, false)).averageCharWidth() * Measure;
   QTextFrame *page = area->document()->rootFrame();
   QTextFrameFormat format = page->frameFormat();
   format.setTopMargin(Grid::Gap);

@@ -22,7 +22,6 @@ class RichTextView : public PageView {
 
   // In steps of a point; 0 is the size as it was set.
   void SetZoom(int steps);
-  int Zoom() const { return zoom; }
 
   void Fill(SelvaniDailyMod &) override {}       // the page's text is appended by whoever shows it
   void ApplyFonts(const SetFonts &) override {}  // heads and bodies bring their own

@@ -14,7 +14,6 @@ class SideBySide : public QWidget {
 
   // Of the widths; the halves are equal otherwise.
   void SetStretch(int first, int second);
-  bool IsStacked() const { return layout->direction() == QBoxLayout::TopToBottom; }
 
   QSize minimumSizeHint() const override;
 

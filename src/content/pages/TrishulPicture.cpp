@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "content/pages/TrishulPicture.h"
 
-#include <QFile>
 #include <QPainter>
 #include <QStyle>
 #include <algorithm>
@@ -10,6 +9,7 @@
 
 #include "content/Skin.h"
 #include "content/Theme.h"
+#include "platform/FileTools.h"
 
 namespace {
 
@@ -19,7 +19,7 @@ constexpr double Edge = 44;  // the numbers at the shafts' ends stand on the dra
 }  // namespace
 
 TrishulPicture::TrishulPicture(const AppPaths &paths, QWidget *parent)
-    : QWidget(parent), drawing(Skin::Picture(QStringLiteral("../COMMON/trishul"))) {
+    : QWidget(parent), drawing(Skin::PictureAt(paths.Ephe(QStringLiteral("COMMON\\trishul.svg")))) {
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
   for (int label = 0; label < Count; ++label) {
     const auto i = static_cast<size_t>(label);
@@ -35,9 +35,7 @@ TrishulPicture::TrishulPicture(const AppPaths &paths, QWidget *parent)
 
 // Rows of label, x, y, place; a row that cannot be read leaves its number in the ring.
 void TrishulPicture::ReadPlaces(const QString &path) {
-  QFile file(path);
-  if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) return;
-  for (const QByteArray &line : file.readAll().split('\n')) {
+  for (const QByteArray &line : ReadFileIfAny(path).split('\n')) {
     const QList<QByteArray> cells = line.trimmed().split('\t');
     if (line.startsWith('#') || cells.size() < 4) continue;
     bool number = false, across = false, down = false;

@@ -28,7 +28,6 @@ class TrishulPicture : public QWidget {
 
   QSize sizeHint() const override { return {440, 440}; }
   QSize minimumSizeHint() const override { return {300, 300}; }
-  bool hasHeightForWidth() const override { return false; }
 
  protected:
   void paintEvent(QPaintEvent *event) override;

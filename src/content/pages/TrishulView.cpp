@@ -11,6 +11,7 @@
 #include "content/Theme.h"
 #include "content/pages/CaptionTable.h"
 #include "content/pages/Card.h"
+#include "content/pages/CardHead.h"
 #include "content/pages/PageScroll.h"
 #include "content/pages/SideBySide.h"
 #include "content/pages/TrishulPicture.h"
@@ -23,14 +24,9 @@ constexpr int LegendRows = TrishulPicture::Count / 2;
 }  // namespace
 
 TrishulView::TrishulView(const AppPaths &paths, QWidget *parent)
-    : PageView(parent), picture(new TrishulPicture(paths)), head(new QLabel), text(new QLabel) {
+    : PageView(parent), picture(new TrishulPicture(paths)), head(MakeHead(QStringLiteral("lblTrishulHead"))), text(new QLabel) {
   setObjectName(QStringLiteral("framTrishulChakra"));
   setAccessibleName(tr("Trishul Chakra"));
-  head->setObjectName(QStringLiteral("lblTrishulHead"));
-  head->setProperty("role", QStringLiteral("head"));
-  QFont bold = head->font();
-  bold.setBold(true);
-  head->setFont(bold);
   text->setObjectName(QStringLiteral("lblTrishulText"));
   text->setText(
       tr("The Vedhas in the Trishul Chakra are located at the points of the trident (Trishul). It is recommended to avoid "

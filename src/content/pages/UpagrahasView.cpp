@@ -65,7 +65,7 @@ void UpagrahasView::ShowChosen() {
   for (size_t i = 0; i < page.modes.size(); ++i) {
     const UpagrahasPage::Mode &mode = page.modes[i];
     CaptionTable &table = *tables[i];
-    titles[i]->setText(mode.chosen ? QStringLiteral("%1 (%2)").arg(mode.title, page.chosenWord) : mode.title);
+    titles[i]->setText(page.TitleOf(mode));
     const std::pair<Column, const QString *> heads[] = {{Name, &page.lblNameHead},
                                                         {Rashi, &page.lblRashiHead},
                                                         {Degrees, &page.lblDegreesHead},
