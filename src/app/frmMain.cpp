@@ -7,7 +7,6 @@
 #include <QComboBox>
 #include <QDesktopServices>
 #include <QDir>
-#include <QFileDialog>
 #include <QFrame>
 #include <QGridLayout>
 #include <QLabel>
@@ -70,6 +69,7 @@
 #include "platform/Errors.h"
 #include "platform/Notices.h"
 #include "platform/StoreKeeper.h"
+#include "platform/gui/AskSaveFile.h"
 #include "reports/DailyReport.h"
 #include "reports/PageExport.h"
 #include "reports/frmDayPrint.h"
@@ -171,7 +171,7 @@ frmMain::frmMain(AppPaths applicationPaths, UserSettings &userSettings, MessageB
   endProgram = [] { QCoreApplication::exit(0); };
   openAddress = [](const QUrl &address) { QDesktopServices::openUrl(address); };
   chooseFile = [this](const QString &suggested) {
-    return QFileDialog::getSaveFileName(this, tr("Save the page as PDF"), suggested, tr("PDF documents (*.pdf)"));
+    return AskSaveFile(this, tr("Save the page as PDF"), suggested, tr("PDF documents (*.pdf)"));
   };
 
   auto *central = new QWidget(this);
@@ -263,9 +263,7 @@ void frmMain::MakeHeader() {
   titleRow->setSpacing(12);
   auto *back = new ImageButton(header);
   back->setObjectName("imgBack");
-  back->SetNormalPic(Skin::Picture(QStringLiteral("imgBack")));
-  back->SetHoverPic(Skin::Picture(QStringLiteral("imgBack"), Skin::State::Hover));
-  back->SetDownPic(Skin::Picture(QStringLiteral("imgBack"), Skin::State::Down));
+  Skin::Dress(*back, QStringLiteral("imgBack"));
   back->setText(tr("Back"));
   back->setAccessibleName(tr("Back"));
   back->SetToolTip(tr("Back to the page before (Alt+Left)"));
@@ -283,9 +281,7 @@ void frmMain::MakeHeader() {
   titleRow->addWidget(lblHint, 1);
   auto *pdf = new ImageButton(header);
   pdf->setObjectName("flpPdf");
-  pdf->SetNormalPic(Skin::Picture(QStringLiteral("flpPdf")));
-  pdf->SetHoverPic(Skin::Picture(QStringLiteral("flpPdf"), Skin::State::Hover));
-  pdf->SetDownPic(Skin::Picture(QStringLiteral("flpPdf"), Skin::State::Down));
+  Skin::Dress(*pdf, QStringLiteral("flpPdf"));
   pdf->setText(tr("PDF"));
   pdf->setAccessibleName(tr("Save this page as PDF"));
   pdf->SetToolTip(tr("Save this page as PDF (Ctrl+S)"));
@@ -416,7 +412,6 @@ void frmMain::MakePages() {
   AddView(contentManager::HelpPage, new HelpView(paths.Ephe(QStringLiteral("HELP/english.html")), host));
   AddPlanets();
   auto *dasha = new DashaView(host);
-  dasha->SetTreeVisible(true);
   connect(dasha, &DashaView::GoToTree, this, &frmMain::OpenDashaTree);
   connect(dasha, &DashaView::StatusChanged, lblHint, &QLabel::setText);
   AddView(11, dasha);

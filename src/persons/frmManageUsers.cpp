@@ -30,6 +30,7 @@
 #include "platform/Errors.h"
 #include "platform/FileTools.h"
 #include "platform/Notices.h"
+#include "platform/gui/AskSaveFile.h"
 
 using namespace FormParts;
 
@@ -318,7 +319,7 @@ QWidget *frmManageUsers::MakeButtons() {
     if (!path.isEmpty()) ImportFrom(path);
   });
   connect(exporting, &QPushButton::clicked, this, [this, kinds] {
-    const QString path = QFileDialog::getSaveFileName(this, tr("Export persons"), QStringLiteral("persons.csv"), kinds);
+    const QString path = AskSaveFile(this, tr("Export persons"), QStringLiteral("persons.csv"), kinds);
     if (!path.isEmpty()) ExportTo(path);
   });
   return row;

@@ -64,7 +64,7 @@ frmDayPrint::Services frmDayPrint::OwnServices() {
     return true;
   };
   services.askFile = [this](const QString &suggested) {
-    return AskSaveFile(this, tr("Save as PDF"), suggested, tr("PDF documents (*.pdf)"), QStringLiteral("pdf"));
+    return AskSaveFile(this, tr("Save as PDF"), suggested, tr("PDF documents (*.pdf)"));
   };
   services.offerPdf = [this](const QString &question) {
     return QMessageBox::question(this, windowTitle(), question, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes) == QMessageBox::Yes;

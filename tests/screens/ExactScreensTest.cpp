@@ -217,7 +217,7 @@ TEST_F(ExactScreens, AskBeforeAFileIsReplaced) {
       }
     });
     user.start(5);
-    const QString chosen = AskSaveFile(nullptr, "Save", folder.filePath("day.pdf"), "PDF (*.pdf)", "pdf");
+    const QString chosen = AskSaveFile(nullptr, "Save", folder.filePath("day.pdf"), "PDF (*.pdf)");
     EXPECT_TRUE(question.contains("held.pdf")) << question.toStdString();
     EXPECT_EQ(chosen, answer == QMessageBox::Yes ? held : QString());
   }

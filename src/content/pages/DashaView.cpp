@@ -44,7 +44,6 @@ DashaView::DashaView(QWidget *parent)
   tree->setObjectName(QStringLiteral("flpDashaTree"));
   tree->setText(tr("Tree..."));
   tree->setToolTip(tr("All periods with their dates"));
-  tree->hide();
   connect(tree, &QPushButton::clicked, this, &DashaView::GoToTree);
 
   strip->setObjectName(QStringLiteral("stripDasha"));
@@ -81,8 +80,6 @@ DashaView::DashaView(QWidget *parent)
   QWidget::setTabOrder(tree, rows[0]);
   for (size_t i = 1; i < rows.size(); ++i) QWidget::setTabOrder(rows[i - 1], rows[i]);
 }
-
-void DashaView::SetTreeVisible(bool visible) { tree->setVisible(visible); }
 
 void DashaView::Fill(SelvaniDailyMod &shown) {
   session = &shown;

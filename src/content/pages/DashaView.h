@@ -24,9 +24,6 @@ class DashaView : public PageView {
   void Fill(SelvaniDailyMod &shown) override;
   void ApplyFonts(const SetFonts &fonts) override;
 
-  // The button that opens the whole tree of periods.
-  void SetTreeVisible(bool visible);
-
  public slots:
   void GoDeep(int index);  // 0 to 8
   void GoUp();

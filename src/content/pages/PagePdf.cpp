@@ -55,5 +55,5 @@ void PagePdf::Print(QWidget *parent, const QString &title, QPageLayout::Orientat
 
 QString PagePdf::AskFile(QWidget *parent, const QString &caption, const QString &suggested, const QString &filter) {
   const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-  return AskSaveFile(parent, caption, folder + QLatin1Char('/') + suggested, filter, QFileInfo(suggested).suffix());
+  return AskSaveFile(parent, caption, folder + QLatin1Char('/') + suggested, filter);
 }

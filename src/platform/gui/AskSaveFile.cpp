@@ -5,11 +5,11 @@
 #include <QFileDialog>
 #include <QFileInfo>
 
-QString AskSaveFile(QWidget *parent, const QString &caption, const QString &suggested, const QString &filter, const QString &suffix) {
+QString AskSaveFile(QWidget *parent, const QString &caption, const QString &suggested, const QString &filter) {
   const QFileInfo file(suggested);
   QFileDialog dialog(parent, caption, file.absolutePath(), filter);
   dialog.setAcceptMode(QFileDialog::AcceptSave);
-  dialog.setDefaultSuffix(suffix);
+  dialog.setDefaultSuffix(file.suffix());
   dialog.selectFile(file.fileName());
   return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
