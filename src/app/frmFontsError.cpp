@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "app/frmFontsError.h"
 
-#include <QFile>
 #include <QFontDatabase>
 #include <QLabel>
 #include <QPushButton>
@@ -10,6 +9,7 @@
 
 #include "content/ShellFonts.h"
 #include "content/Theme.h"
+#include "platform/FileTools.h"
 
 namespace {
 
@@ -63,8 +63,7 @@ void frmFontsError::CheckFonts() {
 
 bool frmFontsError::Install(const QString &face, const QString &file) const {
   // By its bytes: the font engine goes by the extension of a file and does not know this one.
-  QFile font(paths.Ephe(QStringLiteral("FONTI\\") + file + QStringLiteral(".IFT")));
-  if (!font.open(QIODevice::ReadOnly)) return false;
-  const int id = QFontDatabase::addApplicationFontFromData(font.readAll());
+  const QByteArray font = ReadFileIfAny(paths.Ephe(QStringLiteral("FONTI\\") + file + QStringLiteral(".IFT")));
+  const int id = font.isEmpty() ? -1 : QFontDatabase::addApplicationFontFromData(font);
   return id >= 0 && QFontDatabase::applicationFontFamilies(id).contains(face, Qt::CaseInsensitive);
 }
