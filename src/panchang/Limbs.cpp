@@ -16,9 +16,10 @@ std::vector<LimbSpan> FindSteps(LunarAngle angle, int count, double begins, doub
   const double step = 360.0 / count;
   std::vector<LimbSpan> spans;
   int number = std::min(static_cast<int>(std::floor(AngleAt(angle, begins, zodiac) / step)), count - 1);
-  double from = LastMoment(angle, number * step, begins, zodiac);
-  while (spans.empty() || from < ends) {
-    const double to = NextMoment(angle, (number + 1) % count * step, std::max(from, begins), zodiac);
+  double from = MomentNear(angle, number * step, begins, zodiac);
+  constexpr size_t most = 4;  // a day holds three; where the ephemeris ends there is nothing to count by
+  while (spans.empty() || (from < ends && spans.size() < most)) {
+    const double to = MomentNear(angle, (number + 1) % count * step, std::max(from, begins), zodiac);
     spans.push_back({number + 1, from, to});
     number = (number + 1) % count;
     from = to;
@@ -38,7 +39,7 @@ void TellCourse(std::vector<LimbSpan> &spans, double begins, double ends, double
 std::vector<LimbSpan> HalvesOf(const std::vector<LimbSpan> &tithis, double begins, double ends, const Zodiac &zodiac) {
   std::vector<LimbSpan> halves;
   for (const LimbSpan &tithi : tithis) {
-    const double middle = NextMoment(LunarAngle::Elongation, tithi.number * 12 - 6, tithi.begins, zodiac);
+    const double middle = MomentNear(LunarAngle::Elongation, tithi.number * 12 - 6, tithi.begins, zodiac);
     const int half = 2 * (tithi.number - 1);
     if (middle > begins) halves.push_back({KaranaOfHalf(half), tithi.begins, middle});
     if (middle < ends) halves.push_back({KaranaOfHalf(half + 1), middle, tithi.ends});
@@ -73,7 +74,7 @@ std::vector<SignChange> FindSignChanges(double begins, double ends, const Zodiac
     const int last = static_cast<int>(AngleAt(angle, ends, zodiac) / 30) % 12;
     while (sign != last) {
       sign = (sign + 1) % 12;
-      from = NextMoment(angle, sign * 30.0, from, zodiac);
+      from = MomentNear(angle, sign * 30.0, from, zodiac);
       changes.push_back({body, sign + 1, from});
     }
   }

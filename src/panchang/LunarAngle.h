@@ -15,7 +15,10 @@ enum class LunarAngle {
 
 double AngleAt(LunarAngle angle, double universalDay, const Ephemeris::Zodiac &zodiac);  // degrees, 0 up to 360
 
-// The first moment from `universalDay` on, or the last up to it, at which the angle is `target` degrees; to a hundredth of a
-// second. Where the angle is `target` at the moment itself, that moment.
+// The moment at which the angle is `target` degrees, to a hundredth of a second, of which an estimate is known to less than a third of the
+// angle's round.
+double MomentNear(LunarAngle angle, double target, double estimate, const Ephemeris::Zodiac &zodiac);
+// The first moment from `universalDay` on, or the last up to it, at which the angle is `target` degrees. Where the angle is `target` at the
+// moment itself, that moment.
 double NextMoment(LunarAngle angle, double target, double universalDay, const Ephemeris::Zodiac &zodiac);
 double LastMoment(LunarAngle angle, double target, double universalDay, const Ephemeris::Zodiac &zodiac);

@@ -89,6 +89,21 @@ TEST(ExactDay, EndsItsTithisAsPrintedPanchangsDo) {
   EXPECT_NEAR((LastMoment(LunarAngle::Elongation, 348, 2458105.0, {}) - 2458104.66637) / Second, 0, 2);
 }
 
+TEST(ExactDay, FindsTheRoundThatIsMeantInEveryAgeAndZodiac) {
+  using Kind = Ephemeris::Zodiac::Kind;
+  const std::pair<LunarAngle, double> rounds[] = {
+      {LunarAngle::Elongation, 29.53}, {LunarAngle::Moon, 27.32}, {LunarAngle::Sum, 25.42}, {LunarAngle::Sun, 365.25}};
+  for (const Ephemeris::Zodiac &zodiac : {Ephemeris::Zodiac{Kind::Tropical, 0}, {Kind::Lahiri, 0}, {Kind::Fixed, 200}, {Kind::Fixed, 0}})
+    for (const double day : {1721500.3, 2299160.9, 2451545.2, 2461366.7, 2816400.3})  // the years 1, 1582, 2000, 2026 and 2998
+      for (const auto &[angle, length] : rounds)
+        for (const double ahead : {-100.0, -2.0, 0.5, 115.0}) {
+          const double now = AngleAt(angle, day, zodiac), target = std::fmod(now + ahead + 360, 360);
+          const double found = MomentNear(angle, target, day, zodiac);
+          EXPECT_NEAR(std::remainder(AngleAt(angle, found, zodiac) - target, 360), 0, 1e-5) << day << " " << ahead;
+          EXPECT_NEAR(found - day, ahead / 360 * length, length / 12) << day << " " << ahead << " " << int(angle);
+        }
+}
+
 TEST(ExactDay, HasTheLibrarysSiderealPositions) {
   const double moment = ExactZone(0).UniversalOf(Local(2026, 7, 20, 14, 0));
   const auto degrees = [](int sign, int d, int m, int s) { return (sign - 1) * 30 + d + m / 60.0 + s / 3600.0; };
