@@ -76,9 +76,8 @@ QPolygonF ChartLayout::CellShape(int cell) const {
 ChartLayout ChartLayout::Scaled(double width, double height) const {
   const QTransform scale = QTransform::fromScale(width / Side, height / Side);
   ChartLayout scaled = *this;
-  for (auto *texts : {&scaled.lblPlanet, &scaled.lblHouseNo}) {
+  for (auto *texts : {&scaled.lblPlanet, &scaled.lblHouseNo})
     for (Text &text : *texts) text.box = scale.mapRect(text.box);
-  }
   for (Line &line : scaled.lines) line.ends = scale.map(line.ends);
   for (QRectF &box : scaled.surfaceBoxes) box = scale.mapRect(box);
   scaled.squMain = scale.mapRect(squMain);

@@ -12,9 +12,9 @@
 
 #include <array>
 
-/// One chart as a drawing: every text, line and box with its place in a square of 1000 by 1000 units, origin at the top
-/// left, y down. Screen, printer and PDF all walk this one value, so that a chart has the same geometry everywhere.
-/// A target that is not square stretches it.
+// One chart as a drawing: every text, line and box with its place in a square of 1000 by 1000 units, origin at the top
+// left, y down. Screen, printer and PDF all walk this one value, so that a chart has the same geometry everywhere.
+// A target that is not square stretches it.
 struct ChartLayout {
   static constexpr double Side = 1000;
   static constexpr int Cells = 12;
@@ -22,12 +22,12 @@ struct ChartLayout {
 
   enum Style { North = 0, East = 1, South = 2 };
 
-  /// A text in a box: wrapped at blanks to the box's width, each line centred when `centred`.
+  // A text in a box: wrapped at blanks to the box's width, each line centred when `centred`.
   struct Text {
     QRectF box;
     QString caption;
     bool visible = true;
-    bool opaque = false;  ///< filled with the back colour first, so that it masks the lines behind it
+    bool opaque = false;  // filled with the back colour first, so that it masks the lines behind it
     bool centred = false;
   };
 
@@ -36,24 +36,24 @@ struct ChartLayout {
     bool visible = true;
   };
 
-  /// The style whose drawing stands here; a cell is a house position in the North style and a fixed sign in the others.
+  // The style whose drawing stands here; a cell is a house position in the North style and a fixed sign in the others.
   Style style = North;
   std::array<Text, Cells> lblPlanet;
   std::array<Text, Cells> lblHouseNo;
   QRectF squMain;
-  std::array<Line, Lines> lines;  ///< `Line1` is item 0
+  std::array<Line, Lines> lines;  // `Line1` is item 0
   QRectF imgCenter;
 
-  /// The first cells' texts when they were drawn straight on the surface; such a text stands in place of its box's.
+  // The first cells' texts when they were drawn straight on the surface; such a text stands in place of its box's.
   static constexpr int SurfaceTexts = 3;
   std::array<QRectF, SurfaceTexts> surfaceBoxes;
   bool textOnSurface = false;
 
-  /// Pen widths in pixels, never 0.
+  // Pen widths in pixels, never 0.
   int lineWidth = 1;
   int borderWidth = 1;
 
-  /// Black, and an invalid back colour, stand for the skin's colour on screen; on paper black is black.
+  // Black, and an invalid back colour, stand for the skin's colour on screen; on paper black is black.
   QColor lineColor = Qt::black;
   QColor borderColor = Qt::black;
   QColor textColor = Qt::black;
@@ -63,11 +63,11 @@ struct ChartLayout {
   QFont planetFont;
   QFont houseFont;
   QImage centrePic;
-  QString accentText;  ///< the entry set apart in the accent colour, the ascendant's name; empty for none
+  QString accentText;  // the entry set apart in the accent colour, the ascendant's name; empty for none
 
-  /// The outline of a cell, convex. Throws SubscriptError for a cell outside 0 to 11.
+  // The outline of a cell, convex. Throws SubscriptError for a cell outside 0 to 11.
   QPolygonF CellShape(int cell) const;
 
-  /// The same drawing in other units, such as twips for a control of that many twips; pen widths and fonts stay.
+  // The same drawing in other units, such as twips for a control of that many twips; pen widths and fonts stay.
   ChartLayout Scaled(double width, double height) const;
 };

@@ -121,7 +121,7 @@ void ChartPainter::Paint(QPainter &painter, const ChartLayout &layout, const QRe
   const Texts texts = Arrange(layout, target, dots);
   const auto snapX = [&](double x, double pen) { return upright ? Snapped(x, device.m11(), device.dx(), pen) : x; };
   const auto snapY = [&](double y, double pen) { return upright ? Snapped(y, device.m22(), device.dy(), pen) : y; };
-  const QColor back = layout.backColor.isValid() ? layout.backColor : palette_.card;
+  const QColor back = layout.backColor.isValid() ? layout.backColor : palette.card;
 
   painter.save();
   painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform);
@@ -132,20 +132,19 @@ void ChartPainter::Paint(QPainter &painter, const ChartLayout &layout, const QRe
                       QPointF(snapX(outline.right(), frame.borderPen), snapY(outline.bottom(), frame.borderPen)));
   painter.save();
   painter.setClipRect(border);  // the border begins a little inside the square, and no line may stick out of it
-  painter.setPen(Stroke(Or(layout.lineColor, palette_.maroon), frame.linePen));
+  painter.setPen(Stroke(Or(layout.lineColor, palette.maroon), frame.linePen));
   for (const ChartLayout::Line &line : layout.lines) {
     if (!line.visible) continue;
     QPointF from = frame.Map(line.ends.p1());
     QPointF to = frame.Map(line.ends.p2());
-    if (from.x() == to.x()) {
+    if (from.x() == to.x())
       from.rx() = to.rx() = snapX(from.x(), frame.linePen);
-    } else if (from.y() == to.y()) {
+    else if (from.y() == to.y())
       from.ry() = to.ry() = snapY(from.y(), frame.linePen);
-    }
     painter.drawLine(from, to);
   }
   painter.restore();
-  painter.setPen(Stroke(Or(layout.borderColor, palette_.maroon), frame.borderPen));
+  painter.setPen(Stroke(Or(layout.borderColor, palette.maroon), frame.borderPen));
   painter.setBrush(Qt::NoBrush);
   painter.drawRect(border);
 
@@ -157,7 +156,7 @@ void ChartPainter::Paint(QPainter &painter, const ChartLayout &layout, const QRe
   }
 
   painter.setFont(NumberFont(layout, texts.numberSize));
-  painter.setPen(Or(layout.numberColor, palette_.number));
+  painter.setPen(Or(layout.numberColor, palette.number));
   for (size_t i = 0; i < texts.numbers.size(); ++i) {
     const auto &number = texts.numbers[i];
     if (number.text.isEmpty()) continue;
@@ -170,7 +169,7 @@ void ChartPainter::Paint(QPainter &painter, const ChartLayout &layout, const QRe
     for (const FittedText::Word &word : text.words) {
       const QFont font = measure.FontOf(text.pixelSize, word.accent);
       painter.setFont(font);
-      painter.setPen(word.accent ? palette_.accent : Or(layout.textColor, palette_.ink));
+      painter.setPen(word.accent ? palette.accent : Or(layout.textColor, palette.ink));
       painter.drawText(QPointF(word.box.left(), word.box.top() + QFontMetricsF(font).ascent()), word.text);
     }
   }

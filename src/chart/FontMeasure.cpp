@@ -5,10 +5,10 @@
 #include <QFontMetricsF>
 
 QFont FontMeasure::FontOf(int pixelSize, bool accent) const {
-  QFont font = font_;
-  font.setPixelSize(pixelSize);
-  if (accent) font.setBold(true);
-  return font;
+  QFont made = font;
+  made.setPixelSize(pixelSize);
+  if (accent) made.setBold(true);
+  return made;
 }
 
 double FontMeasure::Width(const QString &text, int pixelSize, bool accent) const {

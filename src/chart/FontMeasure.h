@@ -6,10 +6,10 @@
 
 #include "chart/TextMeasure.h"
 
-/// The measures of a real font; accented text is bold.
+// The measures of a real font; accented text is bold.
 class FontMeasure : public TextMeasure {
  public:
-  explicit FontMeasure(const QFont &font) : font_(font) {}
+  explicit FontMeasure(const QFont &textFont) : font(textFont) {}
 
   double Width(const QString &text, int pixelSize, bool accent) const override;
   double LineHeight(int pixelSize) const override;
@@ -17,5 +17,5 @@ class FontMeasure : public TextMeasure {
   QFont FontOf(int pixelSize, bool accent) const;
 
  private:
-  QFont font_;
+  QFont font;
 };

@@ -46,34 +46,34 @@ ImageButton::ImageButton(QWidget *parent) : QAbstractButton(parent) {
   setFocusPolicy(Qt::StrongFocus);
   setIconSize(Grid);
   connect(this, &QAbstractButton::clicked, this, [this] {
-    if (!endsDoubleClick_) emit Click();
+    if (!endsDoubleClick) emit Click();
   });
   // A key or an assistive tool presses without a pointer: the same pictures, but no mouse events.
-  connect(this, &QAbstractButton::pressed, this, [this] { Show(down_); });
-  connect(this, &QAbstractButton::released, this, [this] { Show(captured_ ? hover_ : normal_); });
+  connect(this, &QAbstractButton::pressed, this, [this] { Show(down); });
+  connect(this, &QAbstractButton::released, this, [this] { Show(captured ? hover : normal); });
 }
 
 // --- properties -------------------------------------------------------------------------------------------
 
 void ImageButton::SetNormalPic(const Picture &picture) {
-  normal_ = picture;
-  Show(normal_);
+  normal = picture;
+  Show(normal);
   updateGeometry();
   emit PropertyChanged(QStringLiteral("NormalPic"));
 }
 
 void ImageButton::SetDownPic(const Picture &picture) {
-  down_ = picture;
+  down = picture;
   emit PropertyChanged(QStringLiteral("DownPic"));
 }
 
 void ImageButton::SetHoverPic(const Picture &picture) {
-  hover_ = picture;
+  hover = picture;
   emit PropertyChanged(QStringLiteral("HoverPic"));
 }
 
-void ImageButton::SetStretch(bool stretch) {
-  stretch_ = stretch;
+void ImageButton::SetStretch(bool on) {
+  stretch = on;
   update();
   emit PropertyChanged(QStringLiteral("Stretch"));
 }
@@ -84,66 +84,65 @@ void ImageButton::SetToolTip(const QString &text) {
 }
 
 void ImageButton::SetScaleMode(int mode) {
-  scaleMode_ = mode;
+  scaleMode = mode;
   emit PropertyChanged(QStringLiteral("ScaleMode"));
 }
 
 void ImageButton::SetScaleWidth(float width) {
-  scaleWidth_ = width;
+  scaleWidth = width;
   emit PropertyChanged(QStringLiteral("ScaleWidth"));
 }
 
 void ImageButton::SetScaleHeight(float height) {
-  scaleHeight_ = height;
+  scaleHeight = height;
   emit PropertyChanged(QStringLiteral("ScaleHeight"));
 }
 
 void ImageButton::SetMousePointer(int pointer) {
-  mousePointer_ = pointer;
+  mousePointer = pointer;
   ApplyPointer();
   emit PropertyChanged(QStringLiteral("MousePointer"));
 }
 
 void ImageButton::SetMouseIcon(const Picture &picture) {
-  mouseIcon_ = picture;
+  mouseIcon = picture;
   ApplyPointer();
   emit PropertyChanged(QStringLiteral("MouseIcon"));
 }
 
 void ImageButton::ApplyPointer() {
-  if (mousePointer_ == 0) {
+  if (mousePointer == 0)
     unsetCursor();
-  } else if (mousePointer_ == CustomPointer && !mouseIcon_.isNull()) {
-    setCursor(QCursor(mouseIcon_.pixmap(32, 32)));
-  } else {
-    setCursor(ShapeOf(mousePointer_));
-  }
+  else if (mousePointer == CustomPointer && !mouseIcon.isNull())
+    setCursor(QCursor(mouseIcon.pixmap(32, 32)));
+  else
+    setCursor(ShapeOf(mousePointer));
 }
 
 void ImageButton::SetTextBeside(bool beside) {
-  textBeside_ = beside;
+  textBeside = beside;
   updateGeometry();
   update();
 }
 
 int ImageButton::CurPicture() const {
-  if (Same(shown_, normal_)) return 0;
-  if (Same(shown_, down_)) return 1;
-  return Same(shown_, hover_) ? 2 : 0;
+  if (Same(shown, normal)) return 0;
+  if (Same(shown, down)) return 1;
+  return Same(shown, hover) ? 2 : 0;
 }
 
 ImageButton::State ImageButton::WriteState() const {
   return {
-      {QStringLiteral("NormalPic"), normal_},
-      {QStringLiteral("DownPic"), down_},
-      {QStringLiteral("HoverPic"), hover_},
-      {QStringLiteral("Stretch"), stretch_},
+      {QStringLiteral("NormalPic"), normal},
+      {QStringLiteral("DownPic"), down},
+      {QStringLiteral("HoverPic"), hover},
+      {QStringLiteral("Stretch"), stretch},
       {QStringLiteral("ToolTip"), toolTip()},
-      {QStringLiteral("ScaleMode"), scaleMode_},
-      {QStringLiteral("ScaleWidth"), scaleWidth_},
-      {QStringLiteral("ScaleHeight"), scaleHeight_},
-      {QStringLiteral("MousePointer"), mousePointer_},
-      {QStringLiteral("MouseIcon"), mouseIcon_},
+      {QStringLiteral("ScaleMode"), scaleMode},
+      {QStringLiteral("ScaleWidth"), scaleWidth},
+      {QStringLiteral("ScaleHeight"), scaleHeight},
+      {QStringLiteral("MousePointer"), mousePointer},
+      {QStringLiteral("MouseIcon"), mouseIcon},
   };
 }
 
@@ -170,14 +169,14 @@ void ImageButton::About() {
 // --- pictures ---------------------------------------------------------------------------------------------
 
 void ImageButton::Show(const Picture &picture) {
-  shown_ = picture;
+  shown = picture;
   update();
 }
 
 QSize ImageButton::sizeHint() const {
-  const bool asText = normal_.isNull() || textBeside_;
+  const bool asText = normal.isNull() || textBeside;
   const QSize text = asText && !this->text().isEmpty() ? fontMetrics().size(Qt::TextShowMnemonic, this->text()) : QSize();
-  const int picture = normal_.isNull() ? 0 : iconSize().width();
+  const int picture = normal.isNull() ? 0 : iconSize().width();
   const int between = picture > 0 && text.width() > 0 ? Padding : 0;
   const int width = picture + between + std::max(0, text.width()) + 2 * Padding;
   const int height = std::max(iconSize().height(), text.height()) + 2 * Padding;
@@ -188,14 +187,14 @@ QSize ImageButton::minimumSizeHint() const { return sizeHint(); }
 
 void ImageButton::PaintPicture(QPainter &painter, const QRectF &room) const {
   QRectF target = room;
-  if (!stretch_) {
+  if (!stretch) {
     const QSizeF most = QSizeF(iconSize()).boundedTo(room.size());
-    target.setSize(QSizeF(shown_.actualSize(iconSize())).scaled(most, Qt::KeepAspectRatio));
+    target.setSize(QSizeF(shown.actualSize(iconSize())).scaled(most, Qt::KeepAspectRatio));
     target.moveCenter(room.center());
   }
   const QIcon::Mode mode = isEnabled() ? QIcon::Normal : QIcon::Disabled;
   const double ratio = devicePixelRatioF();
-  QPixmap pixmap = shown_.pixmap((target.size()).toSize(), ratio, mode);
+  QPixmap pixmap = shown.pixmap((target.size()).toSize(), ratio, mode);
   painter.drawPixmap(target, pixmap, QRectF(QPointF(), QSizeF(pixmap.size())));
 }
 
@@ -203,27 +202,27 @@ void ImageButton::paintEvent(QPaintEvent *) {
   QPainter painter(this);
   painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
   QRectF room = rect();
-  const bool withText = !text().isEmpty() && (textBeside_ || shown_.isNull());
-  if (withText && shown_.isNull()) {
+  const bool withText = !text().isEmpty() && (textBeside || shown.isNull());
+  if (withText && shown.isNull()) {
     // Without a picture to tell the state, the ground tells it.
     QColor ground = ChartPalette::For(palette()).saffron;
-    ground.setAlphaF(isDown() || pressedInside_ ? 0.35F : captured_ ? 0.15F : 0.0F);
+    ground.setAlphaF(isDown() || pressedInside ? 0.35F : captured ? 0.15F : 0.0F);
     painter.setPen(Qt::NoPen);
     painter.setBrush(ground);
     painter.drawRoundedRect(room.adjusted(1, 1, -1, -1), 6, 6);
   }
-  if (!shown_.isNull()) {
+  if (!shown.isNull()) {
     if (withText) room = QRectF(QPointF(Padding, (height() - iconSize().height()) / 2.0), iconSize());
     PaintPicture(painter, room);
   }
   if (withText) {
-    const QRectF rest = shown_.isNull() ? QRectF(rect()).adjusted(4, 0, -4, 0) : QRectF(rect()).adjusted(room.right() + Padding, 0, -4, 0);
-    const Qt::Alignment side = shown_.isNull() ? Qt::AlignHCenter : Qt::AlignLeft;
+    const QRectF rest = shown.isNull() ? QRectF(rect()).adjusted(4, 0, -4, 0) : QRectF(rect()).adjusted(room.right() + Padding, 0, -4, 0);
+    const Qt::Alignment side = shown.isNull() ? Qt::AlignHCenter : Qt::AlignLeft;
     painter.setPen(palette().color(QPalette::ButtonText));
     if (!isEnabled()) painter.setOpacity(0.5);
     painter.drawText(rest, static_cast<int>(side | Qt::AlignVCenter | Qt::TextShowMnemonic | Qt::TextWordWrap), text());
   }
-  if (focusShown_) {
+  if (focusShown) {
     painter.setPen(QPen(ChartPalette::For(palette()).saffron, 2));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 6, 6);
@@ -232,38 +231,38 @@ void ImageButton::paintEvent(QPaintEvent *) {
 
 void ImageButton::resizeEvent(QResizeEvent *event) {
   QAbstractButton::resizeEvent(event);
-  img_ = rect();
+  img = rect();
   emit Resize();
 }
 
 void ImageButton::showEvent(QShowEvent *event) {
   QAbstractButton::showEvent(event);
-  if (!normal_.isNull()) Show(normal_);
-  img_ = rect();
+  if (!normal.isNull()) Show(normal);
+  img = rect();
 }
 
 void ImageButton::hideEvent(QHideEvent *event) {
-  captured_ = pressedInside_ = false;
-  Show(normal_);
+  captured = pressedInside = false;
+  Show(normal);
   QAbstractButton::hideEvent(event);
 }
 
 void ImageButton::changeEvent(QEvent *event) {
   if (event->type() == QEvent::EnabledChange && !isEnabled()) {
-    captured_ = pressedInside_ = false;
-    Show(normal_);
+    captured = pressedInside = false;
+    Show(normal);
   }
   QAbstractButton::changeEvent(event);
 }
 
 void ImageButton::focusInEvent(QFocusEvent *event) {
-  focusShown_ = event->reason() != Qt::MouseFocusReason;
+  focusShown = event->reason() != Qt::MouseFocusReason;
   QAbstractButton::focusInEvent(event);
   update();
 }
 
 void ImageButton::focusOutEvent(QFocusEvent *event) {
-  focusShown_ = false;
+  focusShown = false;
   QAbstractButton::focusOutEvent(event);
   update();
 }
@@ -283,60 +282,60 @@ void ImageButton::Hover(const QPointF &position, Qt::MouseButtons buttons, Qt::K
   const QPointer<ImageButton> self = this;
   emit MouseMove(InputCodes::Button(buttons), InputCodes::Shift(keys), static_cast<float>(position.x()), static_cast<float>(position.y()));
   if (!self || buttons.testFlag(Qt::LeftButton)) return;
-  const bool onSurface = !img_.contains(position.toPoint());
-  if (!captured_) {
-    captured_ = true;
-    if (Same(shown_, hover_)) return;
-    Show(hover_);
-    if (onSurface) mouseInside_ = true;
+  const bool onSurface = !img.contains(position.toPoint());
+  if (!captured) {
+    captured = true;
+    if (Same(shown, hover)) return;
+    Show(hover);
+    if (onSurface) mouseInside = true;
     emit MouseEnter();
   } else if (!rect().contains(position.toPoint())) {
-    captured_ = false;
-    Show(normal_);
-    if (onSurface) mouseInside_ = false;
+    captured = false;
+    Show(normal);
+    if (onSurface) mouseInside = false;
     emit MouseExit();
   }
 }
 
 void ImageButton::mouseMoveEvent(QMouseEvent *event) {
   // A drag that began elsewhere may pass over without a capture of its own; only points of this button begin a hover.
-  if (!captured_ && !rect().contains(event->position().toPoint()) && !event->buttons().testFlag(Qt::LeftButton)) return;
+  if (!captured && !rect().contains(event->position().toPoint()) && !event->buttons().testFlag(Qt::LeftButton)) return;
   Hover(event->position(), event->buttons(), event->modifiers());
 }
 
 // The move that shows the pointer outside: told as a move, as a control that holds the pointer is told of it.
 void ImageButton::leaveEvent(QEvent *event) {
   QAbstractButton::leaveEvent(event);
-  if (!captured_) return;
+  if (!captured) return;
   QPointF outside = mapFromGlobal(QPointF(QCursor::pos()));
   if (rect().contains(outside.toPoint())) outside = QPointF(-1, -1);  // something else came between button and pointer
   Hover(outside, QGuiApplication::mouseButtons(), QGuiApplication::keyboardModifiers());
 }
 
 void ImageButton::mousePressEvent(QMouseEvent *event) {
-  pressedInside_ = event->button() == Qt::LeftButton;
-  captured_ = true;
-  Show(down_);
+  pressedInside = event->button() == Qt::LeftButton;
+  captured = true;
+  Show(down);
   emit MouseDown(InputCodes::Button(event->button()), InputCodes::Shift(event->modifiers()), static_cast<float>(event->position().x()),
                  static_cast<float>(event->position().y()));
 }
 
 // A double click is its own event; it looks like a press and ends with an ordinary release.
 void ImageButton::mouseDoubleClickEvent(QMouseEvent *event) {
-  pressedInside_ = endsDoubleClick_ = event->button() == Qt::LeftButton;
-  captured_ = true;
-  Show(down_);
+  pressedInside = endsDoubleClick = event->button() == Qt::LeftButton;
+  captured = true;
+  Show(down);
   emit DblClick();
 }
 
 void ImageButton::mouseReleaseEvent(QMouseEvent *event) {
-  const bool clickedHere = pressedInside_ && event->button() == Qt::LeftButton && rect().contains(event->position().toPoint());
-  if (event->button() == Qt::LeftButton) pressedInside_ = false;
+  const bool clickedHere = pressedInside && event->button() == Qt::LeftButton && rect().contains(event->position().toPoint());
+  if (event->button() == Qt::LeftButton) pressedInside = false;
   const QPointer<ImageButton> self = this;
-  Show(hover_);
+  Show(hover);
   emit MouseUp(InputCodes::Button(event->button()), InputCodes::Shift(event->modifiers()), static_cast<float>(event->position().x()),
                static_cast<float>(event->position().y()));
   if (self) emit Click();
   if (self && clickedHere) emit clicked(false);
-  if (self) endsDoubleClick_ = false;
+  if (self) endsDoubleClick = false;
 }

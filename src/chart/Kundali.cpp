@@ -26,15 +26,15 @@ Kundali::Kundali(QWidget *parent) : QWidget(parent) {
   setAttribute(Qt::WA_OpaquePaintEvent, false);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
   setAccessibleName(tr("Chart"));
-  model_.SetHouseFont(font());
-  model_.SetPlanetFont(font());
-  model_.onChange = [this](const QString &property) { OnChange(property); };
+  model.SetHouseFont(font());
+  model.SetPlanetFont(font());
+  model.onChange = [this](const QString &property) { OnChange(property); };
   OnChange({});
 }
 
 void Kundali::OnChange(const QString &property) {
-  if (property == QLatin1String("Enabled")) setEnabled(model_.Enabled());
-  const QString description = model_.Description();
+  if (property == QLatin1String("Enabled")) setEnabled(model.Enabled());
+  const QString description = model.Description();
   if (description != accessibleDescription()) setAccessibleDescription(description);
   update();
   if (!property.isEmpty()) emit PropertyChanged(property);
@@ -47,8 +47,8 @@ void Kundali::paintEvent(QPaintEvent *) {
   const ChartPalette skin = ChartPalette::For(palette());
   QPainter painter(this);
   if (!isEnabled()) painter.setOpacity(0.5);
-  ChartPainter(skin).Paint(painter, model_.Layout(), ChartRect());
-  if (!focusShown_) return;
+  ChartPainter(skin).Paint(painter, model.Layout(), ChartRect());
+  if (!focusShown) return;
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(QPen(skin.saffron, 2));
   painter.setBrush(Qt::NoBrush);
@@ -56,7 +56,7 @@ void Kundali::paintEvent(QPaintEvent *) {
 }
 
 void Kundali::resizeEvent(QResizeEvent *event) {
-  model_.LayoutChart();
+  model.LayoutChart();
   QWidget::resizeEvent(event);
 }
 
@@ -68,13 +68,13 @@ void Kundali::changeEvent(QEvent *event) {
 
 // A ring for those who walk by keyboard; a click shows where it fell by itself.
 void Kundali::focusInEvent(QFocusEvent *event) {
-  focusShown_ = event->reason() != Qt::MouseFocusReason;
+  focusShown = event->reason() != Qt::MouseFocusReason;
   QWidget::focusInEvent(event);
   update();
 }
 
 void Kundali::focusOutEvent(QFocusEvent *event) {
-  focusShown_ = false;
+  focusShown = false;
   QWidget::focusOutEvent(event);
   update();
 }
@@ -116,7 +116,7 @@ int Kundali::PartAt(const QPoint &point) const {
 }
 
 bool Kundali::IsOverPart(const QPointF &position) const {
-  const ChartLayout &layout = model_.Layout();
+  const ChartLayout &layout = model.Layout();
   const auto holds = [&position](const ChartLayout::Text &text) { return text.visible && text.box.contains(position); };
   return layout.imgCenter.contains(position) || std::any_of(layout.lblPlanet.begin(), layout.lblPlanet.end(), holds) ||
          std::any_of(layout.lblHouseNo.begin(), layout.lblHouseNo.end(), holds);
@@ -124,15 +124,15 @@ bool Kundali::IsOverPart(const QPointF &position) const {
 
 void Kundali::mousePressEvent(QMouseEvent *event) {
   const QPointF at = ToChart(event->position());
-  pressedInside_ = event->button() == Qt::LeftButton;
+  pressedInside = event->button() == Qt::LeftButton;
   emit MouseDown(InputCodes::Button(event->button()), InputCodes::Shift(event->modifiers()), static_cast<float>(at.x()),
                  static_cast<float>(at.y()));
 }
 
 void Kundali::mouseReleaseEvent(QMouseEvent *event) {
   const QPointF at = ToChart(event->position());
-  const bool clicked = pressedInside_ && event->button() == Qt::LeftButton && rect().contains(event->position().toPoint());
-  if (event->button() == Qt::LeftButton) pressedInside_ = false;
+  const bool clicked = pressedInside && event->button() == Qt::LeftButton && rect().contains(event->position().toPoint());
+  if (event->button() == Qt::LeftButton) pressedInside = false;
   const QPointer<Kundali> self = this;
   emit MouseUp(InputCodes::Button(event->button()), InputCodes::Shift(event->modifiers()), static_cast<float>(at.x()),
                static_cast<float>(at.y()));
@@ -147,6 +147,6 @@ void Kundali::mouseMoveEvent(QMouseEvent *event) {
 }
 
 void Kundali::mouseDoubleClickEvent(QMouseEvent *event) {
-  pressedInside_ = false;
+  pressedInside = false;
   if (!IsOverPart(ToChart(event->position()))) emit DblClick();
 }

@@ -8,8 +8,8 @@
 #include "chart/KundaliModel.h"
 #include "chart/SpokenParts.h"
 
-/// The chart on screen. Filled by Clear, SetChartStyle, SetHouseNumber and PlanetPlace, in this order.
-/// Positions in its mouse events are in the chart's own square of 1000 by 1000 units.
+// The chart on screen. Filled by Clear, SetChartStyle, SetHouseNumber and PlanetPlace, in this order.
+// Positions in its mouse events are in the chart's own square of 1000 by 1000 units.
 class Kundali : public QWidget, public SpokenParts {
   Q_OBJECT
   Q_PROPERTY(int ChartStyle READ ChartStyle WRITE SetChartStyle NOTIFY ChartChanged)
@@ -22,56 +22,56 @@ class Kundali : public QWidget, public SpokenParts {
  public:
   explicit Kundali(QWidget *parent = nullptr);
 
-  /// The chart as data: its parts for the printer and the PDF.
-  const ChartLayout &Layout() const { return model_.Layout(); }
+  // The chart as data: its parts for the printer and the PDF.
+  const ChartLayout &Layout() const { return model.Layout(); }
 
-  void Clear() { model_.Clear(); }
-  void PlanetPlace(int sign, const QString &text) { model_.PlanetPlace(sign, text); }
-  QString HouseText(int house) const { return model_.HouseText(house); }
-  int LagnaNo() const { return model_.LagnaNo(); }
-  void MakeHouseInvisible() { model_.MakeHouseInvisible(); }
-  void DrawKundli() { model_.DrawKundli(); }
+  void Clear() { model.Clear(); }
+  void PlanetPlace(int sign, const QString &text) { model.PlanetPlace(sign, text); }
+  QString HouseText(int house) const { return model.HouseText(house); }
+  int LagnaNo() const { return model.LagnaNo(); }
+  void MakeHouseInvisible() { model.MakeHouseInvisible(); }
+  void DrawKundli() { model.DrawKundli(); }
   void Refresh() { update(); }
   static int Expunger12(int value) { return KundaliModel::Expunger12(value); }
 
-  int ChartStyle() const { return model_.ChartStyle(); }
-  void SetChartStyle(int style) { model_.SetChartStyle(style); }
-  int HouseNumber() const { return model_.HouseNumber(); }
-  void SetHouseNumber(int sign) { model_.SetHouseNumber(sign); }
-  int LineWidth() const { return model_.LineWidth(); }
-  void SetLineWidth(int pixels) { model_.SetLineWidth(pixels); }
-  int BorderWidth() const { return model_.BorderWidth(); }
-  void SetBorderWidth(int pixels) { model_.SetBorderWidth(pixels); }
-  QColor BackColor() const { return model_.BackColor(); }
-  void SetBackColor(const QColor &colour) { model_.SetBackColor(colour); }
-  QColor ForeColor() const { return model_.ForeColor(); }
-  void SetForeColor(const QColor &colour) { model_.SetForeColor(colour); }
-  QColor LineColor() const { return model_.LineColor(); }
-  void SetLineColor(const QColor &colour) { model_.SetLineColor(colour); }
-  QColor BorderColor() const { return model_.BorderColor(); }
-  void SetBorderColor(const QColor &colour) { model_.SetBorderColor(colour); }
-  QColor TextColor() const { return model_.TextColor(); }
-  void SetTextColor(const QColor &colour) { model_.SetTextColor(colour); }
-  QColor NumberColor() const { return model_.NumberColor(); }
-  void SetNumberColor(const QColor &colour) { model_.SetNumberColor(colour); }
-  QFont HouseFont() const { return model_.HouseFont().value_or(font()); }
-  void SetHouseFont(const QFont &font) { model_.SetHouseFont(font); }
-  QFont PlanetFont() const { return model_.PlanetFont().value_or(font()); }
-  void SetPlanetFont(const QFont &font) { model_.SetPlanetFont(font); }
-  QImage CentrePic() const { return model_.CentrePic(); }
-  void SetCentrePic(const QImage &picture) { model_.SetCentrePic(picture); }
+  int ChartStyle() const { return model.ChartStyle(); }
+  void SetChartStyle(int style) { model.SetChartStyle(style); }
+  int HouseNumber() const { return model.HouseNumber(); }
+  void SetHouseNumber(int sign) { model.SetHouseNumber(sign); }
+  int LineWidth() const { return model.LineWidth(); }
+  void SetLineWidth(int pixels) { model.SetLineWidth(pixels); }
+  int BorderWidth() const { return model.BorderWidth(); }
+  void SetBorderWidth(int pixels) { model.SetBorderWidth(pixels); }
+  QColor BackColor() const { return model.BackColor(); }
+  void SetBackColor(const QColor &colour) { model.SetBackColor(colour); }
+  QColor ForeColor() const { return model.ForeColor(); }
+  void SetForeColor(const QColor &colour) { model.SetForeColor(colour); }
+  QColor LineColor() const { return model.LineColor(); }
+  void SetLineColor(const QColor &colour) { model.SetLineColor(colour); }
+  QColor BorderColor() const { return model.BorderColor(); }
+  void SetBorderColor(const QColor &colour) { model.SetBorderColor(colour); }
+  QColor TextColor() const { return model.TextColor(); }
+  void SetTextColor(const QColor &colour) { model.SetTextColor(colour); }
+  QColor NumberColor() const { return model.NumberColor(); }
+  void SetNumberColor(const QColor &colour) { model.SetNumberColor(colour); }
+  QFont HouseFont() const { return model.HouseFont().value_or(font()); }
+  void SetHouseFont(const QFont &font) { model.SetHouseFont(font); }
+  QFont PlanetFont() const { return model.PlanetFont().value_or(font()); }
+  void SetPlanetFont(const QFont &font) { model.SetPlanetFont(font); }
+  QImage CentrePic() const { return model.CentrePic(); }
+  void SetCentrePic(const QImage &picture) { model.SetCentrePic(picture); }
   bool Enabled() const { return isEnabled(); }
-  void SetEnabled(bool enabled) { model_.SetEnabled(enabled); }
+  void SetEnabled(bool enabled) { model.SetEnabled(enabled); }
 
-  /// The ascendant's name as it is placed; it is set apart in the accent colour.
-  void SetAscendantName(const QString &name) { model_.SetAccentText(name); }
+  // The ascendant's name as it is placed; it is set apart in the accent colour.
+  void SetAscendantName(const QString &name) { model.SetAccentText(name); }
 
-  KundaliModel::State WriteState() const { return model_.WriteState(); }
-  void ReadState(const KundaliModel::State &state) { model_.ReadState(state); }
+  KundaliModel::State WriteState() const { return model.WriteState(); }
+  void ReadState(const KundaliModel::State &state) { model.ReadState(state); }
 
-  void SetSpokenNames(KundaliModel::SpokenNames names) { model_.SetSpokenNames(std::move(names)); }
+  void SetSpokenNames(KundaliModel::SpokenNames names) { model.SetSpokenNames(std::move(names)); }
   int PartCount() const override { return ChartLayout::Cells; }
-  QString PartWords(int cell) const override { return model_.CellWords(cell); }
+  QString PartWords(int cell) const override { return model.CellWords(cell); }
   QRect PartRoom(int cell) const override;
   int PartAt(const QPoint &point) const override;
 
@@ -111,7 +111,7 @@ class Kundali : public QWidget, public SpokenParts {
   bool IsOverPart(const QPointF &position) const;
   void OnChange(const QString &property);
 
-  KundaliModel model_;
-  bool focusShown_ = false;
-  bool pressedInside_ = false;
+  KundaliModel model;
+  bool focusShown = false;
+  bool pressedInside = false;
 };

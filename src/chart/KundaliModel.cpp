@@ -121,11 +121,10 @@ void PlaceLines(const std::array<Ends, N> &table, ChartLayout &layout) {
 // Size, face and the slanted and struck forms follow the property at every layout; weight only with the assignment itself.
 void CopyAtLayout(const QFont &from, QFont &to) {
   to.setFamilies(from.families());
-  if (from.pointSizeF() > 0) {
+  if (from.pointSizeF() > 0)
     to.setPointSizeF(from.pointSizeF());
-  } else {
+  else
     to.setPixelSize(from.pixelSize());
-  }
   to.setItalic(from.italic());
   to.setStrikeOut(from.strikeOut());
   to.setUnderline(from.underline());
@@ -134,11 +133,11 @@ void CopyAtLayout(const QFont &from, QFont &to) {
 }  // namespace
 
 KundaliModel::KundaliModel() {
-  layout_.houseFont = QFont(QStringLiteral("Arial"));
-  layout_.houseFont.setPointSizeF(8.25);
-  for (auto &text : layout_.lblPlanet) text.centred = true;
-  for (auto &text : layout_.lblHouseNo) text.box.setSize(NumberSize);
-  layout_.surfaceBoxes = NorthSurface;
+  layout.houseFont = QFont(QStringLiteral("Arial"));
+  layout.houseFont.setPointSizeF(8.25);
+  for (auto &text : layout.lblPlanet) text.centred = true;
+  for (auto &text : layout.lblHouseNo) text.box.setSize(NumberSize);
+  layout.surfaceBoxes = NorthSurface;
   LayoutChart();
 }
 
@@ -149,7 +148,7 @@ void KundaliModel::Changed(const char *property) const {
 // --- operations -------------------------------------------------------------------------------------------
 
 void KundaliModel::Clear() {
-  for (auto &text : layout_.lblPlanet) text.caption.clear();
+  for (auto &text : layout.lblPlanet) text.caption.clear();
   Changed("");
 }
 
@@ -159,9 +158,9 @@ int KundaliModel::Expunger12(int value) {
 }
 
 void KundaliModel::PlanetPlace(int sign, const QString &text) {
-  const int index = chartStyle_ == ChartLayout::North ? Expunger12(sign - houseNumber_) : sign - 1;
+  const int index = chartStyle == ChartLayout::North ? Expunger12(sign - houseNumber) : sign - 1;
   SubscriptError::Check("lblPlanet", index, 0, Cells - 1);
-  QString &caption = layout_.lblPlanet[static_cast<size_t>(index)].caption;
+  QString &caption = layout.lblPlanet[static_cast<size_t>(index)].caption;
   caption = (caption + text).trimmed() + QLatin1Char(' ');
   Changed("");
 }
@@ -176,14 +175,14 @@ int KundaliModel::LagnaNo() const {
 }
 
 void KundaliModel::MakeHouseInvisible() {
-  numbersHidden_ = true;
-  for (auto &text : layout_.lblHouseNo) text.visible = false;
+  numbersHidden = true;
+  for (auto &text : layout.lblHouseNo) text.visible = false;
   Changed("");
 }
 
 void KundaliModel::DrawKundli() {
-  switch (chartStyle_) {
-    case ChartLayout::North: layout_.textOnSurface = true; break;
+  switch (chartStyle) {
+    case ChartLayout::North: layout.textOnSurface = true; break;
     case ChartLayout::East: PlaceEastLabels(); break;
     case ChartLayout::South: PlaceSouthLabels(); break;
     default: break;
@@ -194,51 +193,51 @@ void KundaliModel::DrawKundli() {
 // --- layout -----------------------------------------------------------------------------------------------
 
 void KundaliModel::LayoutChart() {
-  switch (chartStyle_) {
+  switch (chartStyle) {
     case ChartLayout::North:
       LayoutFrame(false);
-      PlaceLines(NorthLines, layout_);
+      PlaceLines(NorthLines, layout);
       PlaceNorthLabels();
       break;
     case ChartLayout::East:
       LayoutFrame(true);
-      PlaceLines(EastLines, layout_);
+      PlaceLines(EastLines, layout);
       PlaceEastLabels();
       break;
     case ChartLayout::South:
       LayoutFrame(true);
-      PlaceLines(SouthLines, layout_);
+      PlaceLines(SouthLines, layout);
       PlaceSouthLabels();
       break;
     default: break;
   }
-  layout_.borderWidth = borderWidth_;
-  layout_.textOnSurface = false;
-  if (!planetFont_) return;
-  CopyAtLayout(*planetFont_, layout_.planetFont);
-  if (!houseFont_) return;
-  CopyAtLayout(*houseFont_, layout_.houseFont);
-  layout_.houseFont.setBold(houseFont_->bold());
+  layout.borderWidth = borderWidth;
+  layout.textOnSurface = false;
+  if (!planetFont) return;
+  CopyAtLayout(*planetFont, layout.planetFont);
+  if (!houseFont) return;
+  CopyAtLayout(*houseFont, layout.houseFont);
+  layout.houseFont.setBold(houseFont->bold());
 }
 
 // What the three drawings share. The seventh and eighth line belong to the East and South drawings only.
 void KundaliModel::LayoutFrame(bool innerCross) {
-  layout_.style = static_cast<ChartLayout::Style>(chartStyle_);
-  layout_.lines[6].visible = layout_.lines[7].visible = innerCross;
-  const double width = layout_.borderWidth;
-  layout_.squMain = QRectF(width + 1, width + 1, 999 - width, 999 - width);
-  layout_.imgCenter = CentreBox;
+  layout.style = static_cast<ChartLayout::Style>(chartStyle);
+  layout.lines[6].visible = layout.lines[7].visible = innerCross;
+  const double width = layout.borderWidth;
+  layout.squMain = QRectF(width + 1, width + 1, 999 - width, 999 - width);
+  layout.imgCenter = CentreBox;
 }
 
 void KundaliModel::PlaceNorthLabels() {
   for (int i = 0; i < Cells; ++i) {
     const auto index = static_cast<size_t>(i);
-    ChartLayout::Text &number = layout_.lblHouseNo[index];
-    number.caption = QString::number(Expunger12(houseNumber_ + i));
+    ChartLayout::Text &number = layout.lblHouseNo[index];
+    number.caption = QString::number(Expunger12(houseNumber + i));
     number.opaque = false;
-    if (!numbersHidden_) number.visible = true;
+    if (!numbersHidden) number.visible = true;
     number.box.moveTo(NorthCells[index].number);
-    layout_.lblPlanet[index].box = NorthCells[index].planets;
+    layout.lblPlanet[index].box = NorthCells[index].planets;
   }
 }
 
@@ -246,7 +245,7 @@ void KundaliModel::PlaceNorthLabels() {
 void KundaliModel::PlaceEastLabels() {
   for (int i = 0; i < Cells; ++i) {
     const auto index = static_cast<size_t>(i);
-    ChartLayout::Text &number = layout_.lblHouseNo[index];
+    ChartLayout::Text &number = layout.lblHouseNo[index];
     if (IsMiddleCell(i)) {
       number.caption = QString::number(i + 1);
       number.opaque = true;
@@ -254,7 +253,7 @@ void KundaliModel::PlaceEastLabels() {
     } else {
       number.visible = false;
     }
-    layout_.lblPlanet[index].box = EastCells[index].planets;
+    layout.lblPlanet[index].box = EastCells[index].planets;
   }
 }
 
@@ -262,9 +261,9 @@ void KundaliModel::PlaceEastLabels() {
 void KundaliModel::PlaceSouthLabels() {
   for (int i = 0; i < Cells; ++i) {
     const auto index = static_cast<size_t>(i);
-    layout_.lblHouseNo[index].caption = QString::number(i + 1);
-    layout_.lblHouseNo[index].box.moveTo(SouthCells[index].number);
-    layout_.lblPlanet[index].box = SouthCells[index].planets;
+    layout.lblHouseNo[index].caption = QString::number(i + 1);
+    layout.lblHouseNo[index].box.moveTo(SouthCells[index].number);
+    layout.lblPlanet[index].box = SouthCells[index].planets;
   }
 }
 
@@ -272,27 +271,27 @@ void KundaliModel::PlaceSouthLabels() {
 
 const ChartLayout::Text &KundaliModel::lblPlanet(int index) const {
   SubscriptError::Check("lblPlanet", index, 0, Cells - 1);
-  return layout_.lblPlanet[static_cast<size_t>(index)];
+  return layout.lblPlanet[static_cast<size_t>(index)];
 }
 
 const ChartLayout::Text &KundaliModel::lblHouseNo(int index) const {
   SubscriptError::Check("lblHouseNo", index, 0, Cells - 1);
-  return layout_.lblHouseNo[static_cast<size_t>(index)];
+  return layout.lblHouseNo[static_cast<size_t>(index)];
 }
 
 QString KundaliModel::CellWords(int cell) const {
   QStringList planets;
   for (const QString &name : lblPlanet(cell).caption.split(QLatin1Char(' '), Qt::SkipEmptyParts))
-    planets << spoken_.planets.value(name, name);
+    planets << spoken.planets.value(name, name);
   const QString held = planets.isEmpty() ? QCoreApplication::translate("Kundali", "empty") : planets.join(QStringLiteral(", "));
-  const bool isNorth = layout_.style == ChartLayout::North;
+  const bool isNorth = layout.style == ChartLayout::North;
   const int sign = isNorth ? lblHouseNo(cell).caption.toInt() : cell + 1;
-  const bool isNamed = sign >= 1 && sign <= static_cast<int>(spoken_.signs.size());
+  const bool isNamed = sign >= 1 && sign <= static_cast<int>(spoken.signs.size());
   const QString number = QString::number(cell + 1);
   if (!isNamed)
     return isNorth ? QCoreApplication::translate("Kundali", "House %1, sign %2: %3.").arg(number, lblHouseNo(cell).caption, held)
                    : QCoreApplication::translate("Kundali", "Sign %1: %2.").arg(number, held);
-  const QString &name = spoken_.signs[static_cast<size_t>(sign - 1)];
+  const QString &name = spoken.signs[static_cast<size_t>(sign - 1)];
   return isNorth ? QCoreApplication::translate("Kundali", "House %1, %2: %3.").arg(number, name, held)
                  : QStringLiteral("%1: %2.").arg(name, held);
 }
@@ -307,86 +306,86 @@ QString KundaliModel::Description() const {
 // --- properties -------------------------------------------------------------------------------------------
 
 void KundaliModel::SetChartStyle(int style) {
-  chartStyle_ = style;
+  chartStyle = style;
   LayoutChart();
   Changed("ChartStyle");
 }
 
 void KundaliModel::SetHouseNumber(int sign) {
-  houseNumber_ = sign;
+  houseNumber = sign;
   LayoutChart();
   Changed("HouseNumber");
 }
 
 void KundaliModel::SetLineWidth(int pixels) {
-  layout_.lineWidth = pixels == 0 ? 1 : pixels;
+  layout.lineWidth = pixels == 0 ? 1 : pixels;
   LayoutChart();
   Changed("LineWidth");
 }
 
 void KundaliModel::SetBorderWidth(int pixels) {
-  borderWidth_ = layout_.borderWidth = pixels == 0 ? 1 : pixels;
+  borderWidth = layout.borderWidth = pixels == 0 ? 1 : pixels;
   Changed("BorderWidth");
 }
 
 void KundaliModel::SetBackColor(const QColor &colour) {
-  layout_.backColor = colour;
+  layout.backColor = colour;
   Changed("BackColor");
 }
 
 void KundaliModel::SetForeColor(const QColor &colour) {
-  foreColor_ = colour;
+  foreColor = colour;
   LayoutChart();
   Changed("ForeColor");
 }
 
 void KundaliModel::SetLineColor(const QColor &colour) {
-  layout_.lineColor = colour;
+  layout.lineColor = colour;
   LayoutChart();
   Changed("LineColor");
 }
 
 void KundaliModel::SetBorderColor(const QColor &colour) {
-  layout_.borderColor = colour;
+  layout.borderColor = colour;
   Changed("BorderColor");
 }
 
 void KundaliModel::SetTextColor(const QColor &colour) {
-  layout_.textColor = colour;
+  layout.textColor = colour;
   Changed("TextColor");
 }
 
 void KundaliModel::SetNumberColor(const QColor &colour) {
-  layout_.numberColor = colour;
+  layout.numberColor = colour;
   Changed("NumberColor");
 }
 
 void KundaliModel::SetHouseFont(const QFont &font) {
-  houseFont_ = font;
+  houseFont = font;
   LayoutChart();
-  layout_.houseFont = font;
+  layout.houseFont = font;
   Changed("HouseFont");
 }
 
 void KundaliModel::SetPlanetFont(const QFont &font) {
-  planetFont_ = font;
+  planetFont = font;
   LayoutChart();
-  layout_.planetFont = font;
+  layout.planetFont = font;
   Changed("PlanetFont");
 }
 
 void KundaliModel::SetCentrePic(const QImage &picture) {
-  layout_.centrePic = picture;
+  layout.centrePic = picture;
   Changed("CentrePic");
 }
 
-void KundaliModel::SetEnabled(bool enabled) {
-  enabled_ = enabled;
+void KundaliModel::SetEnabled(bool on) {
+  enabled = on;
   Changed("Enabled");
 }
 
 void KundaliModel::SetAccentText(const QString &text) {
-  layout_.accentText = text.trimmed();
+  layout.accentText = text.trimmed();
   Changed("");
 }
 
@@ -398,8 +397,8 @@ KundaliModel::State KundaliModel::WriteState() const {
       {QStringLiteral("BackColor"), BackColor()},
       {QStringLiteral("ForeColor"), ForeColor()},
       {QStringLiteral("Enabled"), Enabled()},
-      {QStringLiteral("HouseFont"), fontValue(houseFont_)},
-      {QStringLiteral("PlanetFont"), fontValue(planetFont_)},
+      {QStringLiteral("HouseFont"), fontValue(houseFont)},
+      {QStringLiteral("PlanetFont"), fontValue(planetFont)},
       {QStringLiteral("LineColor"), LineColor()},
       {QStringLiteral("HouseNumber"), HouseNumber()},
       {QStringLiteral("LineWidth"), LineWidth()},
@@ -435,5 +434,5 @@ void KundaliModel::ReadState(const State &state) {
   SetChartStyle(take("ChartStyle", 0).toInt());
   SetBorderColor(take("BorderColor", black).value<QColor>());
   SetNumberColor(take("NumberColor", black).value<QColor>());
-  invisHouseNum_ = take("InvisHouseNum", false).toBool();
+  invisHouseNum = take("InvisHouseNum", false).toBool();
 }

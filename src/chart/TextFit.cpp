@@ -23,9 +23,8 @@ using Words = std::vector<FittedText::Word>;
 
 Words WordsOf(const FittedText::Task &task) {
   Words words;
-  for (const QString &text : task.caption.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+  for (const QString &text : task.caption.split(QLatin1Char(' '), Qt::SkipEmptyParts))
     words.push_back({text, !task.accentText.isEmpty() && text == task.accentText, {}});
-  }
   return words;
 }
 
@@ -68,11 +67,10 @@ Room CellRoom(const FittedText::Task &task) {
     const double gap = task.gap * std::sqrt(2.0);
     LevelSpan span{std::max(above.left, below.left) + gap, std::min(above.right, below.right) - gap};
     if (!task.taken.isEmpty() && top < task.taken.bottom() && bottom > task.taken.top()) {
-      if (task.taken.center().x() < task.shape.boundingRect().center().x()) {
+      if (task.taken.center().x() < task.shape.boundingRect().center().x())
         span.left = std::max(span.left, task.taken.right() + task.gap);
-      } else {
+      else
         span.right = std::min(span.right, task.taken.left() - task.gap);
-      }
     }
     return span;
   };
@@ -132,12 +130,10 @@ FittedText FittedText::Fit(const Task &task, const TextMeasure &measure) {
   if (words.empty()) return {};
   const int smallest = std::max(task.smallestSize, LeastSize);
   const int preferred = std::max(task.preferredSize, smallest);
-  for (int size = preferred; size >= smallest; --size) {
+  for (int size = preferred; size >= smallest; --size)
     if (auto set = FitBox(words, size, task, measure)) return {size, std::move(*set)};
-  }
-  for (int size = preferred; size >= LeastSize; --size) {
+  for (int size = preferred; size >= LeastSize; --size)
     if (auto set = FitCell(words, size, task, measure)) return {size, std::move(*set)};
-  }
   const auto limitless = [&task](double, double) { return LevelSpan{task.box.center().x() - 1e6, task.box.center().x() + 1e6}; };
   return {LeastSize, *Flow(words, LeastSize, measure, limitless, task.box.top(), std::numeric_limits<double>::max())};
 }
@@ -156,9 +152,8 @@ QRectF PushInside(QRectF rectangle, const QPolygonF &shape, double gap) {
       QPointF inward = QPointF(-edge.dy(), edge.dx()) / edge.length();
       if (QPointF::dotProduct(inward, middle - a) < 0) inward = -inward;
       double least = std::numeric_limits<double>::max();
-      for (const QPointF &corner : {rectangle.topLeft(), rectangle.topRight(), rectangle.bottomLeft(), rectangle.bottomRight()}) {
+      for (const QPointF &corner : {rectangle.topLeft(), rectangle.topRight(), rectangle.bottomLeft(), rectangle.bottomRight()})
         least = std::min(least, QPointF::dotProduct(inward, corner - a));
-      }
       if (least >= gap - 0.001) continue;
       rectangle.translate(inward * (gap - least));
       moved = true;

@@ -4,7 +4,7 @@
 
 #include <QString>
 
-/// How wide and how high text stands; behind an interface so that the fitting of a chart's texts needs no font to be tested.
+// How wide and how high text stands; behind an interface so that the fitting of a chart's texts needs no font to be tested.
 class TextMeasure {
  public:
   TextMeasure() = default;
@@ -12,9 +12,9 @@ class TextMeasure {
   TextMeasure &operator=(const TextMeasure &) = delete;
   virtual ~TextMeasure() = default;
 
-  /// The advance of a text at a font size, both in pixels; an accented text may be heavier than a plain one.
+  // The advance of a text at a font size, both in pixels; an accented text may be heavier than a plain one.
   virtual double Width(const QString &text, int pixelSize, bool accent) const = 0;
 
-  /// The distance of two lines at a font size, in pixels.
+  // The distance of two lines at a font size, in pixels.
   virtual double LineHeight(int pixelSize) const = 0;
 };

@@ -11,14 +11,14 @@
 #include "chart/ChartLayout.h"
 #include "platform/PrintFont.h"
 
-/// What an item stands in; a "Frame" gives its place to the items in it.
+// What an item stands in; a "Frame" gives its place to the items in it.
 struct FormContainer {
   QString typeName;
   double Left = 0;
   double Top = 0;
 };
 
-/// A formatted text: its characters, and the font and colour at a position.
+// A formatted text: its characters, and the font and colour at a position.
 struct FormText {
   struct Format {
     PrintFont font;
@@ -29,8 +29,8 @@ struct FormText {
   std::function<Format(int SelStart)> FormatAt;
 };
 
-/// One thing on a page as printing code sees it, by type name: "Label", "Line", "Shape", "Kundali", "Image" or
-/// "TXTextControl". Lengths are twips from the page's or the container's top left; colours are 0xRRGGBB.
+// One thing on a page as printing code sees it, by type name: "Label", "Line", "Shape", "Kundali", "Image" or
+// "TXTextControl". Lengths are twips from the page's or the container's top left; colours are 0xRRGGBB.
 struct FormItem {
   enum ShapeKind { Rectangle = 0, CircleShape = 3 };
   enum AlignmentKind { AlignLeft = 0, AlignRight = 1, AlignCenter = 2 };
@@ -38,7 +38,7 @@ struct FormItem {
   QString typeName;
   bool Visible = true;
   double Left = 0, Top = 0, Width = 0, Height = 0;
-  double X1 = 0, Y1 = 0, X2 = 0, Y2 = 0;  ///< of a line
+  double X1 = 0, Y1 = 0, X2 = 0, Y2 = 0;  // of a line
   int Shape = Rectangle;
   unsigned BorderColor = 0, ForeColor = 0;
   QImage Picture;
@@ -53,8 +53,8 @@ struct FormItem {
   double OffsetY() const { return Container && Container->typeName == QLatin1String("Frame") ? Container->Top : 0; }
 };
 
-/// A page of items in the order in which they are walked.
+// A page of items in the order in which they are walked.
 struct FormPage {
   std::vector<FormItem> items;
-  bool landscape = false;  ///< wider than high
+  bool landscape = false;  // wider than high
 };

@@ -7,15 +7,15 @@
 class QPrinter;
 class QWidget;
 
-/// A page of the screen in a file or on paper.
+// A page of the screen in a file or on paper.
 namespace PageExport {
 
-/// Writes the page as it stands to a PDF of its own. Throws StoreError where the file cannot be written, which then stays as it was.
-/// `personName` heads the pages of running text.
+// Writes the page as it stands to a PDF of its own. Throws StoreError where the file cannot be written, which then stays as it was.
+// `personName` heads the pages of running text.
 void SavePdf(QWidget &page, const QString &path, const QString &personName, const QString &makerAddress);
 
-/// Prints the page as it stands, the paper turned as suits it. A failure is told in a message; false then. Pages of running text
-/// print what they hold besides the text.
+// Prints the page as it stands, the paper turned as suits it. A failure is told in a message; false then. Pages of running text
+// print what they hold besides the text.
 bool Print(QWidget &page, QPrinter &printer);
 
 }  // namespace PageExport

@@ -6,7 +6,7 @@
 
 #include "platform/DocumentInfo.h"
 
-/// What every PDF of this program tells about itself.
+// What every PDF of this program tells about itself.
 inline DocumentInfo PdfDocumentInfo(const QString &makerAddress) {
   const QString title = QStringLiteral("Orvani");
   return {

@@ -38,9 +38,9 @@ void AddParts(PratyanPeriod &whole, double years, int position, const clsPlanets
 }  // namespace
 
 void PratyanTree::FindPratyantara(const clsPlanets &birthChart, const QDateTime &moment) {
-  periods_.clear();
-  months_.assign(1, QString());
-  for (int month = 1; month <= 12; ++month) months_.push_back(birthChart.GetMonthNameByNum(month).left(3));
+  periods.clear();
+  months.assign(1, QString());
+  for (int month = 1; month <= 12; ++month) months.push_back(birthChart.GetMonthNameByNum(month).left(3));
   clsDashas dashas([&]() -> const clsPlanets & { return birthChart; }, [&] { return moment; });
   dashas.CalcDashaVimshottari(birthChart);
   for (const DashaPeriod &record : dashas.Records()) {
@@ -51,19 +51,19 @@ void PratyanTree::FindPratyantara(const clsPlanets &birthChart, const QDateTime 
     period.end = clsDashas::EndOf(record);
     period.running = period.begin < moment && moment <= period.end;
     AddParts(period, record.Length, record.Position, birthChart, moment);
-    periods_.push_back(std::move(period));
+    periods.push_back(std::move(period));
   }
 }
 
 QString PratyanTree::DateText(const QDateTime &date) const {
   const QDate day = date.date();
-  return QStringLiteral("%1 %2 %3").arg(QString::number(day.day()), months_[static_cast<size_t>(day.month())], QString::number(day.year()));
+  return QStringLiteral("%1 %2 %3").arg(QString::number(day.day()), months[static_cast<size_t>(day.month())], QString::number(day.year()));
 }
 
 std::vector<PratyanLabel> PratyanTree::Labels() const {
   std::vector<PratyanLabel> labels;
-  for (size_t i = 0; i < periods_.size(); ++i) {
-    const PratyanPeriod &whole = periods_[i];
+  for (size_t i = 0; i < periods.size(); ++i) {
+    const PratyanPeriod &whole = periods[i];
     const double left = ColumnLeft[i % 3], top = BandTop[i / 3] - PageShift;
     labels.push_back({whole.name, left, top + 100, true});
     labels.push_back({DateText(whole.begin), left + DateLeft, top + 100, whole.running});

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #pragma once
 
-/// Told how far a report is.
+// Told how far a report is.
 class ReportProgress {
  public:
   ReportProgress() = default;
@@ -10,6 +10,6 @@ class ReportProgress {
   ReportProgress &operator=(const ReportProgress &) = delete;
   virtual ~ReportProgress() = default;
 
-  /// `done` parts of `total` are made. False stops the report.
+  // `done` parts of `total` are made. False stops the report.
   virtual bool Step(int done, int total) = 0;
 };

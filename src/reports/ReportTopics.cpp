@@ -64,10 +64,10 @@ ReportTopics ReportTopics::Usual() {
   return usual;
 }
 
-ReportTopics ReportTopics::FromKeys(const QStringList &keys) {
-  if (keys.isEmpty()) return Usual();
+ReportTopics ReportTopics::FromKeys(const QStringList &chosenKeys) {
+  if (chosenKeys.isEmpty()) return Usual();
   ReportTopics chosen;
-  for (const QString &given : keys) {
+  for (const QString &given : chosenKeys) {
     const QString key = given.trimmed();
     bool known = false;
     for (const Group &group : AllGroups) {
@@ -89,9 +89,9 @@ ReportTopics ReportTopics::FromKeys(const QStringList &keys) {
 
 void ReportTopics::Set(const QString &key, bool wanted) {
   if (wanted)
-    keys_.insert(key);
+    keys.insert(key);
   else
-    keys_.erase(key);
+    keys.erase(key);
 }
 
 bool ReportTopics::HasPrediction() const {

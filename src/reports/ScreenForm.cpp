@@ -28,22 +28,22 @@ unsigned OnPaper(const QColor &colour) {
 
 class Walk {
  public:
-  Walk(QWidget &page, FormPage &form) : page_(page), form_(form) {
+  Walk(QWidget &screenPage, FormPage &paperForm) : page(screenPage), form(paperForm) {
     QRect whole;
     Measure(page, whole);
     whole = whole.united(QRect(0, 0, 1, 1));
-    form_.landscape = whole.width() > whole.height();
-    const double across = (form_.landscape ? SheetLong : SheetShort) - 2 * Margin;
-    const double down = (form_.landscape ? SheetShort : SheetLong) - 2 * Margin;
-    twips_ = std::min({TwipsPerPixel, across / whole.width(), down / whole.height()});
-    origin_ = whole.topLeft();
-    left_ = Margin + (across - whole.width() * twips_) / 2;
+    form.landscape = whole.width() > whole.height();
+    const double across = (form.landscape ? SheetLong : SheetShort) - 2 * Margin;
+    const double down = (form.landscape ? SheetShort : SheetLong) - 2 * Margin;
+    twips = std::min({TwipsPerPixel, across / whole.width(), down / whole.height()});
+    origin = whole.topLeft();
+    left = Margin + (across - whole.width() * twips) / 2;
   }
 
   void Over(QWidget &widget) {
     for (QObject *child : widget.children()) {
       auto *part = qobject_cast<QWidget *>(child);
-      if (!part || part->isWindow() || !part->isVisibleTo(&page_)) continue;
+      if (!part || part->isWindow() || !part->isVisibleTo(&page)) continue;
       if (!Add(*part)) Over(*part);
     }
   }
@@ -53,8 +53,8 @@ class Walk {
   void Measure(QWidget &widget, QRect &whole) const {
     for (QObject *child : widget.children()) {
       auto *part = qobject_cast<QWidget *>(child);
-      if (!part || part->isWindow() || !part->isVisibleTo(&page_)) continue;
-      if (IsLeaf(*part)) whole = whole.united(QRect(part->mapTo(&page_, QPoint()), part->size()));
+      if (!part || part->isWindow() || !part->isVisibleTo(&page)) continue;
+      if (IsLeaf(*part)) whole = whole.united(QRect(part->mapTo(&page, QPoint()), part->size()));
       Measure(*part, whole);
     }
   }
@@ -77,13 +77,13 @@ class Walk {
   }
 
   FormItem Item(const char *type, const QWidget &part) const {
-    const QPointF at = QPointF(part.mapTo(&page_, QPoint()) - origin_) * twips_;
+    const QPointF at = QPointF(part.mapTo(&page, QPoint()) - origin) * twips;
     FormItem item;
     item.typeName = QLatin1String(type);
-    item.Left = left_ + at.x();
+    item.Left = left + at.x();
     item.Top = Margin + at.y();
-    item.Width = part.width() * twips_;
-    item.Height = part.height() * twips_;
+    item.Width = part.width() * twips;
+    item.Height = part.height() * twips;
     return item;
   }
 
@@ -91,7 +91,7 @@ class Walk {
     PrintFont made;
     const QString family = QFontInfo(font).family();
     made.name = family == QLatin1String("Liberation Sans") ? QStringLiteral("Arial") : family;
-    made.size = QFontInfo(font).pixelSize() * twips_ / 20;
+    made.size = QFontInfo(font).pixelSize() * twips / 20;
     made.bold = font.weight() >= QFont::DemiBold;
     made.italic = font.italic();
     made.underline = font.underline();
@@ -111,7 +111,7 @@ class Walk {
       const double grown = std::pow(std::max(1.0, std::min(part.width(), part.height()) / FullSizeChart), 0.7);
       item.Chart.planetFont.setPointSizeF(FontOf(chart->PlanetFont()).size * grown);
       item.Chart.houseFont.setPointSizeF(FontOf(chart->HouseFont()).size * grown);
-      form_.items.push_back(item);
+      form.items.push_back(item);
     } else if (auto *text = qobject_cast<QTextEdit *>(&part)) {
       AddText(*text);
     } else if (auto *frame = qobject_cast<QFrame *>(&part);
@@ -120,7 +120,7 @@ class Walk {
     } else if (IsDrawing(part)) {
       FormItem item = Item("Image", part);
       item.Picture = PictureOf(part);
-      if (!item.Picture.isNull()) form_.items.push_back(item);
+      if (!item.Picture.isNull()) form.items.push_back(item);
     } else {
       return false;
     }
@@ -130,14 +130,14 @@ class Walk {
   void AddLabel(const QLabel &label) {
     if (const QPixmap pixmap = label.pixmap(Qt::ReturnByValue); !pixmap.isNull()) {
       FormItem item = Item("Image", label);
-      QSizeF size = pixmap.deviceIndependentSize() * twips_;
+      QSizeF size = pixmap.deviceIndependentSize() * twips;
       if (size.width() > item.Width || size.height() > item.Height) size.scale(item.Width, item.Height, Qt::KeepAspectRatio);
       item.Left += (item.Width - size.width()) / 2;
       item.Top += (item.Height - size.height()) / 2;
       item.Width = size.width();
       item.Height = size.height();
       item.Picture = pixmap.toImage();
-      form_.items.push_back(item);
+      form.items.push_back(item);
       return;
     }
     FormItem item = Item("Label", label);
@@ -154,22 +154,22 @@ class Walk {
                      : label.alignment() & Qt::AlignRight ? FormItem::AlignRight
                                                           : FormItem::AlignLeft;
     const QRect inside = label.contentsRect().adjusted(label.margin(), label.margin(), -label.margin(), -label.margin());
-    item.Left += inside.left() * twips_;
-    item.Top += inside.top() * twips_;
-    item.Width = inside.width() * twips_;
-    item.Height = inside.height() * twips_;
+    item.Left += inside.left() * twips;
+    item.Top += inside.top() * twips;
+    item.Width = inside.width() * twips;
+    item.Height = inside.height() * twips;
     const QRect needed = label.fontMetrics().boundingRect(QRect(0, 0, std::max(1, inside.width()), 10000),
                                                           label.wordWrap() ? Qt::TextWordWrap : 0, item.Caption);
-    const double rest = item.Height - needed.height() * twips_;
+    const double rest = item.Height - needed.height() * twips;
     if (rest > 0 && label.alignment() & Qt::AlignVCenter) item.Top += rest / 2;
     if (rest > 0 && label.alignment() & Qt::AlignBottom) item.Top += rest;
     // What stands on one line on screen does so on paper, where the letters are a little wider.
     if (!label.wordWrap()) {
-      const double wider = std::max(0.0, needed.width() * twips_ * 1.06 - item.Width);
+      const double wider = std::max(0.0, needed.width() * twips * 1.06 - item.Width);
       item.Width += wider;
       if (item.Alignment != FormItem::AlignLeft) item.Left -= item.Alignment == FormItem::AlignCenter ? wider / 2 : wider;
     }
-    form_.items.push_back(item);
+    form.items.push_back(item);
   }
 
   void AddLine(const QFrame &frame) {
@@ -179,7 +179,7 @@ class Walk {
     item.X2 = level ? item.Left + item.Width : item.X1;
     item.Y1 = item.Top + (level ? item.Height / 2 : 0);
     item.Y2 = level ? item.Y1 : item.Top + item.Height;
-    form_.items.push_back(item);
+    form.items.push_back(item);
   }
 
   void AddText(const QTextEdit &edit) {
@@ -209,8 +209,8 @@ class Walk {
         if (line.start <= start) format = line.format;
       return format;
     };
-    form_.landscape = false;
-    form_.items.push_back(item);
+    form.landscape = false;
+    form.items.push_back(item);
   }
 
   static QImage PictureOf(QWidget &part) {
@@ -222,11 +222,11 @@ class Walk {
     return image;
   }
 
-  QWidget &page_;
-  FormPage &form_;
-  double twips_ = TwipsPerPixel;
-  double left_ = Margin;
-  QPoint origin_;
+  QWidget &page;
+  FormPage &form;
+  double twips = TwipsPerPixel;
+  double left = Margin;
+  QPoint origin;
 };
 
 }  // namespace

@@ -22,27 +22,27 @@ class clsPlanets;
 struct AspectsPage;
 struct VargasPage;
 
-/// Composes the daily report of the session's person and moment on a printer, at fixed places. Lengths are twips.
-/// Faults of the printer, of the stores and of the pictures rise to the caller; so does ReportCancelled.
+// Composes the daily report of the session's person and moment on a printer, at fixed places. Lengths are twips.
+// Faults of the printer, of the stores and of the pictures rise to the caller; so does ReportCancelled.
 class clsDailyPrinter {
  public:
   struct Setup {
-    LanguageRow language;  ///< sizes and bold of its fonts
-    QString picturesDir;   ///< holds punditji.jpg and trishul.jpg
-    QString makerAddress;  ///< for the footer
+    LanguageRow language;  // sizes and bold of its fonts
+    QString picturesDir;   // holds punditji.jpg and trishul.jpg
+    QString makerAddress;  // for the footer
   };
 
-  /// A font name and a size that stand for the language's normal ones.
+  // A font name and a size that stand for the language's normal ones.
   static constexpr const char *NormFont = "NormFont";
   static constexpr double NormSize = 666;
 
   clsDailyPrinter(PrinterService &printer, SelvaniDailyMod &session, Setup setup);
 
-  /// Prints the pages of the topics in their order and ends the document.
+  // Prints the pages of the topics in their order and ends the document.
   void PrintRoutine(const ReportTopics &topics, ReportProgress *progress = nullptr);
 
-  /// Running text from the present height on, wrapped at 6 inches and carried over to new pages. Paragraphs end with CR LF.
-  /// A heading stands close to what follows it; any other text is followed by a gap.
+  // Running text from the present height on, wrapped at 6 inches and carried over to new pages. Paragraphs end with CR LF.
+  // A heading stands close to what follows it; any other text is followed by a gap.
   void PrintMyText(const QString &text, const QString &font, double size, bool bold, bool heading);
 
  private:

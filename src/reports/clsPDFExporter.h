@@ -9,11 +9,11 @@
 #include "platform/PdfBox.h"
 #include "reports/FormItem.h"
 
-/// Writes screen pages to a PDF: StartExport, PrintForm for each page with NewTopic between two, FinishFile. Positions of the
-/// screen, twips, become tenths of a millimetre.
+// Writes screen pages to a PDF: StartExport, PrintForm for each page with NewTopic between two, FinishFile. Positions of the
+// screen, twips, become tenths of a millimetre.
 class clsPDFExporter {
  public:
-  /// For the head of text pages: whose they are, and the date of the export.
+  // For the head of text pages: whose they are, and the date of the export.
   struct Head {
     QString personName;
     QDate date;
@@ -24,16 +24,16 @@ class clsPDFExporter {
   const QString &filename() const { return path; }
   void SetFilename(const QString &file);
 
-  /// False where the document cannot be begun; Fault then tells why.
+  // False where the document cannot be begun; Fault then tells why.
   bool StartExport();
-  void FinishFile();  ///< throws StoreError where the file cannot be written
+  void FinishFile();  // throws StoreError where the file cannot be written
   void NewTopic();
   void PrintForm(const FormPage &form);
   void PrintLabel(const FormItem &control);
   bool ExportHoroscope() { return false; }
 
   const QString &Fault() const { return fault; }
-  int PageCounter() const { return pageCounter; }  ///< automatic new pages
+  int PageCounter() const { return pageCounter; }  // automatic new pages
 
  private:
   void PrintLine(const FormItem &control);

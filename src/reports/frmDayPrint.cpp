@@ -37,42 +37,42 @@ class WaitPointer {
 
 }  // namespace
 
-frmDayPrint::frmDayPrint(DailyReport &report, QWidget *parent) : QDialog(parent), report_(report), services_(OwnServices()) { Build(); }
+frmDayPrint::frmDayPrint(DailyReport &dailyReport, QWidget *parent) : QDialog(parent), report(dailyReport), services(OwnServices()) {
+  Build();
+}
 
-frmDayPrint::frmDayPrint(DailyReport &report, Services services, QWidget *parent)
-    : QDialog(parent), report_(report), services_(std::move(services)) {
+frmDayPrint::frmDayPrint(DailyReport &dailyReport, Services outside, QWidget *parent)
+    : QDialog(parent), report(dailyReport), services(std::move(outside)) {
   Build();
 }
 
 frmDayPrint::~frmDayPrint() = default;
 
-std::unique_ptr<ReportProgress> frmDayPrint::NewProgress(Target target) const { return makeProgress_ ? makeProgress_(target) : nullptr; }
+std::unique_ptr<ReportProgress> frmDayPrint::NewProgress(Target target) const { return makeProgress ? makeProgress(target) : nullptr; }
 
 frmDayPrint::Services frmDayPrint::OwnServices() {
-  Services services;
-  services.hasPrinter = [] { return !QPrinterInfo::availablePrinterNames().isEmpty(); };
-  services.print = [this](const ReportTopics &topics) {
+  Services own;
+  own.hasPrinter = [] { return !QPrinterInfo::availablePrinterNames().isEmpty(); };
+  own.print = [this](const ReportTopics &topics) {
     if (!Printer().isValid()) throw ReportError(tr("The printer \"%1\" is not there any more.").arg(Printer().printerName()));
     QtPrinterService service(Printer());
     const std::unique_ptr<ReportProgress> progress = NewProgress(Target::Printer);
     try {
-      report_.Print(service, topics, progress.get());
+      report.Print(service, topics, progress.get());
     } catch (const ReportCancelled &) {
       service.Abort();
       return false;
     }
     return true;
   };
-  services.askFile = [this](const QString &suggested) {
-    return AskSaveFile(this, tr("Save as PDF"), suggested, tr("PDF documents (*.pdf)"));
-  };
-  services.offerPdf = [this](const QString &question) {
+  own.askFile = [this](const QString &suggested) { return AskSaveFile(this, tr("Save as PDF"), suggested, tr("PDF documents (*.pdf)")); };
+  own.offerPdf = [this](const QString &question) {
     return QMessageBox::question(this, windowTitle(), question, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes) == QMessageBox::Yes;
   };
-  services.tell = [this](const QString &sentence, bool bad) {
+  own.tell = [this](const QString &sentence, bool bad) {
     bad ? QMessageBox::warning(this, windowTitle(), sentence) : QMessageBox::information(this, windowTitle(), sentence);
   };
-  return services;
+  return own;
 }
 
 void frmDayPrint::Build() {
@@ -155,65 +155,63 @@ ReportTopics frmDayPrint::Topics() const {
 }
 
 QPrinter &frmDayPrint::Printer() {
-  if (!printer_) {
-    printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
-    printer_->setDocName(tr("Daily Horoscope"));
+  if (!printer) {
+    printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    printer->setDocName(tr("Daily Horoscope"));
   }
-  return *printer_;
+  return *printer;
 }
 
 void frmDayPrint::Print() {
   QString fault;
-  if (!services_.hasPrinter()) {
+  if (!services.hasPrinter()) {
     fault = tr("No printer is installed on this computer.");
   } else {
     try {
       const WaitPointer wait;
-      if (!services_.print(Topics())) return;
+      if (!services.print(Topics())) return;
     } catch (const ReportError &error) {
       fault = error.Sentence();
-      printer_.reset();  // the next one begins with a printer that may be back
+      printer.reset();  // the next one begins with a printer that may be back
     } catch (const Error &error) {
-      services_.tell(error.Sentence(), true);
+      services.tell(error.Sentence(), true);
       return;
     }
   }
-  if (fault.isEmpty()) {
+  if (fault.isEmpty())
     accept();
-  } else if (services_.offerPdf(tr("%1 Do you want to save the report as a PDF?").arg(fault))) {
+  else if (services.offerPdf(tr("%1 Do you want to save the report as a PDF?").arg(fault)))
     SavePdf();
-  }
 }
 
 void frmDayPrint::SavePdf() {
   const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-  const QString file = services_.askFile(QDir(folder).filePath(report_.FileName()));
+  const QString file = services.askFile(QDir(folder).filePath(report.FileName()));
   if (file.isEmpty()) return;
   try {
     bool saved = false;
     {
       const WaitPointer wait;
       const std::unique_ptr<ReportProgress> progress = NewProgress(Target::Pdf);
-      saved = report_.SavePdf(file, Topics(), progress.get());
+      saved = report.SavePdf(file, Topics(), progress.get());
     }
     if (!saved) return;
-    services_.tell(tr("The report is saved as \"%1\".").arg(QDir::toNativeSeparators(file)), false);
+    services.tell(tr("The report is saved as \"%1\".").arg(QDir::toNativeSeparators(file)), false);
     accept();
   } catch (const Error &error) {
-    services_.tell(error.Sentence(), true);
+    services.tell(error.Sentence(), true);
   }
 }
 
 void frmDayPrint::Preview() {
   // Without a printer the preview lays the pages out as a PDF would.
-  QPrinter &printer = Printer();
-  QPrintPreviewDialog preview(&printer, this);
+  QPrintPreviewDialog preview(&Printer(), this);
   preview.setWindowTitle(tr("Print Daily Horoscope"));
   QString fault;
   connect(&preview, &QPrintPreviewDialog::paintRequested, this, [&](QPrinter *target) {
     try {
       QtPrinterService service(*target);
-      report_.Print(service, Topics());
+      report.Print(service, Topics());
     } catch (const Error &error) {
       fault = error.Sentence();
       QMetaObject::invokeMethod(&preview, &QDialog::reject, Qt::QueuedConnection);
@@ -221,12 +219,12 @@ void frmDayPrint::Preview() {
   });
   preview.resize(screen()->availableSize() * 0.8);
   preview.exec();
-  if (!fault.isEmpty()) services_.tell(fault, true);
+  if (!fault.isEmpty()) services.tell(fault, true);
 }
 
 void frmDayPrint::PrinterOptions() {
-  if (!services_.hasPrinter()) {
-    if (services_.offerPdf(tr("No printer is installed on this computer. Do you want to save the report as a PDF?"))) SavePdf();
+  if (!services.hasPrinter()) {
+    if (services.offerPdf(tr("No printer is installed on this computer. Do you want to save the report as a PDF?"))) SavePdf();
     return;
   }
   // The dialog works on a printer of its own, so that a cancelled one changes nothing.

@@ -35,10 +35,10 @@ frmPratyan::frmPratyan(QWidget *parent) : QDialog(parent) {
 }
 
 void frmPratyan::FindPratyantara(const clsPlanets &birthChart, const QDateTime &moment) {
-  tree_.FindPratyantara(birthChart, moment);
+  tree.FindPratyantara(birthChart, moment);
   tvwPratyan->clear();
-  running_ = nullptr;
-  for (const PratyanPeriod &period : tree_.Periods()) Add(tvwPratyan->invisibleRootItem(), period);
+  running = nullptr;
+  for (const PratyanPeriod &period : tree.Periods()) Add(tvwPratyan->invisibleRootItem(), period);
   int width = 12 * Gap;  // frame, margins, scroll bar
   for (int column = Period; column <= Mark; ++column) {
     tvwPratyan->resizeColumnToContents(column);
@@ -46,22 +46,22 @@ void frmPratyan::FindPratyantara(const clsPlanets &birthChart, const QDateTime &
     width += tvwPratyan->columnWidth(column);
   }
   resize(std::max(width, this->width()), height());
-  if (!running_) return;
-  tvwPratyan->setCurrentItem(running_);
-  tvwPratyan->scrollToItem(running_, QAbstractItemView::PositionAtCenter);
+  if (!running) return;
+  tvwPratyan->setCurrentItem(running);
+  tvwPratyan->scrollToItem(running, QAbstractItemView::PositionAtCenter);
 }
 
 void frmPratyan::Add(QTreeWidgetItem *parent, const PratyanPeriod &period) {
   auto *item = new QTreeWidgetItem(parent);
   item->setText(Period, period.name);
-  item->setText(Begins, tree_.DateText(period.begin));
-  item->setText(Ends, tree_.DateText(period.end));
+  item->setText(Begins, tree.DateText(period.begin));
+  item->setText(Ends, tree.DateText(period.end));
   if (period.running) {
     item->setText(Mark, tr("running"));
     QFont bold = font();
     bold.setBold(true);
     for (int column = Period; column <= Mark; ++column) item->setFont(column, bold);
-    running_ = item;
+    running = item;
   }
   for (const PratyanPeriod &part : period.parts) Add(item, part);
   if (period.running) item->setExpanded(true);

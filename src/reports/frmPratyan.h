@@ -9,8 +9,8 @@
 class QTreeWidget;
 class QTreeWidgetItem;
 
-/// The Vimshottari periods of the birth as a tree with their dates, down to the Pratyantara. What runs at the moment of the
-/// analysis is marked, open and in view.
+// The Vimshottari periods of the birth as a tree with their dates, down to the Pratyantara. What runs at the moment of the
+// analysis is marked, open and in view.
 class frmPratyan : public QDialog {
   Q_OBJECT
 
@@ -19,12 +19,12 @@ class frmPratyan : public QDialog {
 
   void FindPratyantara(const clsPlanets &birthChart, const QDateTime &moment);
 
-  const PratyanTree &Tree() const { return tree_; }
+  const PratyanTree &Tree() const { return tree; }
 
  private:
   void Add(QTreeWidgetItem *parent, const PratyanPeriod &period);
 
-  PratyanTree tree_;
+  PratyanTree tree;
   QTreeWidget *tvwPratyan;
-  QTreeWidgetItem *running_ = nullptr;
+  QTreeWidgetItem *running = nullptr;
 };
