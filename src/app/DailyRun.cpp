@@ -203,7 +203,7 @@ int RestoreStores(const AppPaths &paths) {
       StoreKeeper::OpenForReading(path);
       Print(QStringLiteral("%1 is sound and stays as it is.\n").arg(shown));
     } catch (const RestorableError &) {
-      const QString kept = StoreKeeper::KeptMoment(path).value_or(QDateTime()).toString(StoreKeeper::kMomentFormat);
+      const QString kept = StoreKeeper::KeptMoment(path).value_or(QDateTime()).toString(StoreKeeper::MomentFormat);
       const QString aside = StoreKeeper::RestoreCopy(path);
       Print(QStringLiteral("%1 is again as it was on %2.\n").arg(shown, kept));
       if (!aside.isEmpty()) Print(QStringLiteral("What lay there is now %1.\n").arg(QDir::toNativeSeparators(aside)));

@@ -296,7 +296,7 @@ void frmSettings::MakeYourDetails() {
     QLabel *label = MakeLabel(text, "caption", ShellFonts().SmallFont());
     auto *field = new QLineEdit;
     field->setObjectName(QLatin1String(name));
-    field->setMaxLength(clsIni::kLongestValue);
+    field->setMaxLength(clsIni::LongestValue);
     ShellFonts().SetNormalFont(*field);
     field->setAccessibleName(text);
     label->setBuddy(field);

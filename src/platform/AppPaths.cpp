@@ -11,24 +11,19 @@
 
 namespace {
 
-const QString kEphe = QStringLiteral("EPHE");
+const QString EpheFolder = QStringLiteral("EPHE");
 
 // The entry `name` of `folder` in whatever case it is written; an exact match goes before others.
 QString EntryOf(const QString &folder, const QString &name) {
   const QString exact = folder + u'/' + name;
-  if (QFileInfo::exists(exact)) {
-    return exact;
-  }
+  if (QFileInfo::exists(exact)) return exact;
   const QStringList entries = QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
-  for (const QString &entry : entries) {
-    if (entry.compare(name, Qt::CaseInsensitive) == 0) {
-      return folder + u'/' + entry;
-    }
-  }
+  for (const QString &entry : entries)
+    if (entry.compare(name, Qt::CaseInsensitive) == 0) return folder + u'/' + entry;
   return exact;
 }
 
-QString EpheOf(const QString &appDir) { return EntryOf(QDir(appDir).absolutePath(), kEphe); }
+QString EpheOf(const QString &appDir) { return EntryOf(QDir(appDir).absolutePath(), EpheFolder); }
 
 bool HoldsEphe(const QString &appDir) { return !appDir.isEmpty() && QFileInfo(EpheOf(appDir)).isDir(); }
 
@@ -45,11 +40,9 @@ AppPaths FilledFrom(const QString &source, const QString &userDir, AppPaths::Acc
   try {
     DataSeed::BringUpToDate(EpheOf(source), user);
   } catch (const StoreError &) {
-    if (access == AppPaths::Access::Write || !QFileInfo(EpheOf(source)).isReadable()) {
-      throw;
-    }
+    if (access == AppPaths::Access::Write || !QFileInfo(EpheOf(source)).isReadable()) throw;
     // The version is written last, so a folder that has one is whole, and its persons are the user's.
-    return QFileInfo::exists(user.Ephe(DataSeed::kVersionFile)) ? user : Of(source);
+    return QFileInfo::exists(user.Ephe(DataSeed::VersionFile)) ? user : Of(source);
   }
   return user;
 }
@@ -65,9 +58,7 @@ AppPaths::Candidates AppPaths::Candidates::OfThisMachine(const QString &explicit
   const QStringList shared = QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation);
   for (const QString &folder : shared) {
     const QString candidate = folder + QStringLiteral("/orvani");
-    if (candidate != all.userDataDir) {
-      all.installedDirs << candidate;
-    }
+    if (candidate != all.userDataDir) all.installedDirs << candidate;
   }
   return all;
 }
@@ -88,20 +79,14 @@ AppPaths AppPaths::Locate(const Candidates &candidates, Access access) {
   // renews the ones and leaves the other to the user.
   const QString packed = candidates.programDir + QStringLiteral("/share/orvani");
   if (HoldsEphe(candidates.programDir) ? CanWrite(candidates.programDir)
-                                       : HoldsEphe(packed) && QFileInfo(candidates.programDir).isWritable()) {
+                                       : HoldsEphe(packed) && QFileInfo(candidates.programDir).isWritable())
     return HoldsEphe(packed) ? FilledFrom(packed, candidates.programDir, access) : Of(candidates.programDir);
-  }
 
   // A program folder that cannot be written, such as a mounted image, still serves as a source.
   const QStringList sources = QStringList{candidates.programDir, packed} + candidates.installedDirs;
-  for (const QString &source : sources) {
-    if (HoldsEphe(source)) {
-      return FilledFrom(source, candidates.userDataDir, access);
-    }
-  }
-  if (HoldsEphe(candidates.userDataDir)) {
-    return Of(candidates.userDataDir);
-  }
+  for (const QString &source : sources)
+    if (HoldsEphe(source)) return FilledFrom(source, candidates.userDataDir, access);
+  if (HoldsEphe(candidates.userDataDir)) return Of(candidates.userDataDir);
   throw MissingFileError(
       tr("The data files were not found. Please install the program again, or start it with --app-dir and the folder that "
          "holds EPHE. Looked in: %1.")
@@ -111,11 +96,9 @@ AppPaths AppPaths::Locate(const Candidates &candidates, Access access) {
 QString AppPaths::Ephe(const QString &relative) const {
   QString slashed = relative;
   slashed.replace(u'\\', u'/');
-  QString path = EntryOf(appDir_, kEphe);
+  QString path = EntryOf(appDir, EpheFolder);
   const QStringList elements = slashed.split(u'/', Qt::SkipEmptyParts);
-  for (const QString &element : elements) {
-    path = EntryOf(path, element);
-  }
+  for (const QString &element : elements) path = EntryOf(path, element);
   return path;
 }
 

@@ -16,7 +16,7 @@
 
 namespace {
 
-constexpr std::array kCommonFiles{
+constexpr std::array CommonFiles{
     "COMMON\\CONYEAR.DAT", "COMMON\\SADESAT.Dat", "COMMON\\SCGRAHA.DAT", "COMMON\\SCRASI.DAT",
     "COMMON\\SCYONI.DAT",  "COMMON\\LANGS.Dat",   "COMMON\\WAIT.AVI",
 };
@@ -26,22 +26,17 @@ constexpr std::array kCommonFiles{
 void DataFiles::CheckFileExists(const AppPaths &paths, const QString &path) {
   const bool asGiven = path.mid(1, 1) == QLatin1String(":") || QDir::isAbsolutePath(path);
   const QString full = asGiven ? path : paths.Ephe(path);
-  if (!QFileInfo(full).isFile()) {
+  if (!QFileInfo(full).isFile())
     throw MissingFileError(tr("File '%1' Was Not Found.\nPlease Re-Install.").arg(QDir::toNativeSeparators(full)), tr("File Not Found"));
-  }
 }
 
 void DataFiles::CheckDataFiles(const AppPaths &paths) {
-  for (const char *file : kCommonFiles) {
-    CheckFileExists(paths, QLatin1String(file));
-  }
+  for (const char *file : CommonFiles) CheckFileExists(paths, QLatin1String(file));
 }
 
 void DataFiles::CheckPersonStore(const AppPaths &paths) {
   const QString path = paths.RecosPath();
-  if (!IsTaken(path) && !StoreKeeper::SoundCopyMoment(path)) {
-    CheckFileExists(paths, path);
-  }
+  if (!IsTaken(path) && !StoreKeeper::SoundCopyMoment(path)) CheckFileExists(paths, path);
 }
 
 bool DataFiles::LanguageFileExists(const AppPaths &paths, const QString &directory) {
@@ -61,12 +56,9 @@ void DataFiles::CheckLanguages(const AppPaths &paths) {
   // Read first: on most starts nothing has changed, and a list that cannot be written does no harm then.
   bool anyWrong = false;
   for (Recordset languages = Database::OpenDatabase(path, Database::Mode::ReadOnly)->OpenRecordset(all); !languages.AtEnd();
-       languages.MoveNext()) {
+       languages.MoveNext())
     anyWrong = anyWrong || isWrong(languages);
-  }
-  if (!anyWrong) {
-    return;
-  }
+  if (!anyWrong) return;
   try {
     const auto database = Database::OpenDatabase(path);
     Transaction transaction(*database);
@@ -79,9 +71,7 @@ void DataFiles::CheckLanguages(const AppPaths &paths) {
     }
     transaction.Commit();
   } catch (const StoreError &error) {
-    if (error.Reason() != StoreError::Kind::ReadOnly && error.Reason() != StoreError::Kind::Locked) {
-      throw;
-    }
+    if (error.Reason() != StoreError::Kind::ReadOnly && error.Reason() != StoreError::Kind::Locked) throw;
     Notices::Show({Notice::Kind::Warning, QString(), error.Sentence()});
   }
 }

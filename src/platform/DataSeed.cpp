@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr int kLongestWaitMs = 10000;
+constexpr int LongestWaitMs = 10000;
 
 // What the user's work goes into, relative to EPHE.
 bool IsUsersOwn(const QString &relative) {
@@ -39,39 +39,33 @@ void DataSeed::BringUpToDate(const QString &installedEphe, const AppPaths &user)
   QDir().mkpath(epheFolder);
   QLockFile oneAtATime(epheFolder + QStringLiteral("/SEED.lock"));
   // A folder that cannot be written is told by the first copy into it.
-  if (!oneAtATime.tryLock(kLongestWaitMs) && oneAtATime.error() == QLockFile::LockFailedError) {
+  if (!oneAtATime.tryLock(LongestWaitMs) && oneAtATime.error() == QLockFile::LockFailedError) {
     throw StoreError(tr("The data folder \"%1\" is being filled by another program. Please wait until that is done and try again.")
                          .arg(QDir::toNativeSeparators(epheFolder)),
                      StoreError::Kind::Locked);
   }
 
-  const QByteArray installedVersion = Version(installedEphe + u'/' + kVersionFile);
-  const bool renew = !installedVersion.isEmpty() && installedVersion != Version(user.Ephe(kVersionFile));
+  const QByteArray installedVersion = Version(installedEphe + u'/' + VersionFile);
+  const bool renew = !installedVersion.isEmpty() && installedVersion != Version(user.Ephe(VersionFile));
 
   QDirIterator files(installedEphe, QDir::Files, QDirIterator::Subdirectories | QDirIterator::FollowSymlinks);
   while (files.hasNext()) {
     const QString source = files.next();
     const QString relative = QDir(installedEphe).relativeFilePath(source);
-    if (relative == kVersionFile || IsLeftByARun(relative)) {
-      continue;
-    }
+    if (relative == VersionFile || IsLeftByARun(relative)) continue;
     const QString target = user.Ephe(relative);
     const bool usersOwn = IsUsersOwn(relative);
     // A link into nothing is the user's too: the drive that holds the file may only be away.
-    if (usersOwn ? IsTaken(target) : QFileInfo::exists(target) && !renew) {
-      continue;
-    }
+    if (usersOwn ? IsTaken(target) : QFileInfo::exists(target) && !renew) continue;
     if (const std::optional<QDateTime> kept = StoreKeeper::SoundCopyMoment(target); usersOwn && kept) {
       WriteWholeFile(target, ReadWholeFile(StoreKeeper::KeptPath(target)));
       Notices::Show({Notice::Kind::Warning, QString(),
                      tr("The data file \"%1\" was missing. The copy kept on %2 was put in its place.")
-                         .arg(QDir::toNativeSeparators(target), kept->toString(StoreKeeper::kMomentFormat))});
+                         .arg(QDir::toNativeSeparators(target), kept->toString(StoreKeeper::MomentFormat))});
       continue;
     }
     WriteWholeFile(target, ReadWholeFile(source));
   }
   // Last, so that a run that was cut off counts as not done.
-  if (renew) {
-    WriteWholeFile(user.Ephe(kVersionFile), installedVersion + '\n');
-  }
+  if (renew) WriteWholeFile(user.Ephe(VersionFile), installedVersion + '\n');
 }

@@ -19,12 +19,12 @@
 
 namespace {
 
-constexpr QByteArrayView kMagic("SQLite format 3\0", 16);
-constexpr qint64 kHeadSize = 100;
+constexpr QByteArrayView Magic("SQLite format 3\0", 16);
+constexpr qint64 HeadSize = 100;
 
 // The store engine's result codes that the user can do something about.
-enum Result { kBusy = 5, kLocked = 6, kReadOnly = 8, kInputOutput = 10, kCorrupt = 11, kFull = 13, kCannotOpen = 14, kNotADatabase = 26 };
-constexpr int kReplaced = 1032;  // of the extended codes: another file bears the name now
+enum Result { Busy = 5, Locked = 6, ReadOnly = 8, InputOutput = 10, Corrupt = 11, Full = 13, CannotOpen = 14, NotADatabase = 26 };
+constexpr int Replaced = 1032;  // of the extended codes: another file bears the name now
 
 std::atomic<int> busyTimeoutMs{2000};
 
@@ -36,7 +36,7 @@ struct Wording {
 };
 
 // One sentence for each way in which a store can refuse; %1 is its path.
-constexpr std::array kWordings{
+constexpr std::array Wordings{
     Wording{Kind::Missing,
             QT_TRANSLATE_NOOP("Database", "The data file \"%1\" is missing. Please put it back, or install the program again.")},
     Wording{Kind::NotAFile,
@@ -70,25 +70,23 @@ constexpr std::array kWordings{
 };
 
 StoreError Worded(Kind kind, const QString &path) {
-  const auto wording = std::find_if(kWordings.begin(), kWordings.end(), [kind](const Wording &entry) { return entry.kind == kind; });
-  Q_ASSERT(wording != kWordings.end());
+  const auto wording = std::find_if(Wordings.begin(), Wordings.end(), [kind](const Wording &entry) { return entry.kind == kind; });
+  Q_ASSERT(wording != Wordings.end());
   return StoreError(QCoreApplication::translate("Database", wording->sentence).arg(QDir::toNativeSeparators(path)), kind);
 }
 
 // Cases of a kind that are told in words of their own.
 StoreError Told(Kind kind, const char *sentence, const QStringList &values) {
   QString text = QCoreApplication::translate("Database", sentence);
-  for (const QString &value : values) {
-    text = text.arg(QDir::toNativeSeparators(value));
-  }
+  for (const QString &value : values) text = text.arg(QDir::toNativeSeparators(value));
   return StoreError(text, kind);
 }
 
 // A file that has lost its end is told as such: a copy that was cut off is often still lying elsewhere whole.
 StoreError Damage(const QString &path) {
   QFile file(path);
-  const QByteArray head = file.open(QIODevice::ReadOnly) ? file.read(kHeadSize) : QByteArray();
-  if (head.size() == kHeadSize) {
+  const QByteArray head = file.open(QIODevice::ReadOnly) ? file.read(HeadSize) : QByteArray();
+  if (head.size() == HeadSize) {
     const auto number = qFromBigEndian<quint16>(head.constData() + 16);
     const qint64 pageSize = number == 1 ? 65536 : number;
     const qint64 size = pageSize * qFromBigEndian<quint32>(head.constData() + 28);
@@ -114,17 +112,11 @@ void CheckFile(const QString &path, Database::Mode mode) {
                                  "file, or put the file back."),
                {path, info.symLinkTarget()});
   }
-  if (!info.exists()) {
-    throw Worded(Kind::Missing, path);
-  }
-  if (!info.isFile()) {
-    throw Worded(Kind::NotAFile, path);
-  }
+  if (!info.exists()) throw Worded(Kind::Missing, path);
+  if (!info.isFile()) throw Worded(Kind::NotAFile, path);
   QFile file(path);
-  if (!file.open(QIODevice::ReadOnly)) {
-    throw Worded(Kind::Unreadable, path);
-  }
-  const QByteArray start = file.read(kMagic.size());
+  if (!file.open(QIODevice::ReadOnly)) throw Worded(Kind::Unreadable, path);
+  const QByteArray start = file.read(Magic.size());
   if (start.isEmpty()) {
     throw Told(Kind::Damaged,
                QT_TRANSLATE_NOOP("Database",
@@ -132,15 +124,9 @@ void CheckFile(const QString &path, Database::Mode mode) {
                                  "move it away and install the program again."),
                {path});
   }
-  if (!kMagic.startsWith(start)) {
-    throw Worded(Kind::Foreign, path);
-  }
-  if (start.size() < kMagic.size()) {
-    throw Worded(Kind::Damaged, path);
-  }
-  if (mode == Database::Mode::ReadWrite && !info.isWritable()) {
-    throw Worded(Kind::ReadOnly, path);
-  }
+  if (!Magic.startsWith(start)) throw Worded(Kind::Foreign, path);
+  if (start.size() < Magic.size()) throw Worded(Kind::Damaged, path);
+  if (mode == Database::Mode::ReadWrite && !info.isWritable()) throw Worded(Kind::ReadOnly, path);
   // Beside the file itself a change needs its journal.
   if (mode == Database::Mode::ReadWrite && !QFileInfo(QFileInfo(info.canonicalFilePath()).path()).isWritable()) {
     throw Told(
@@ -159,9 +145,8 @@ QVariant Bindable(const QVariant &value) {
 
 QString CheckedSchema(const QString &schema) {
   static const QRegularExpression name(QStringLiteral("^[A-Za-z_][A-Za-z0-9_]*$"));
-  if (!name.match(schema).hasMatch()) {
+  if (!name.match(schema).hasMatch())
     throw UsageError(QCoreApplication::translate("Database", "\"%1\" cannot name an attached data file.").arg(schema));
-  }
   return schema;
 }
 
@@ -170,16 +155,12 @@ QString CheckedSchema(const QString &schema) {
 std::shared_ptr<Database> Database::OpenDatabase(const QString &path, Mode mode, Check check) {
   CheckFile(path, mode);
   const std::shared_ptr<Database> database(new Database(path, mode));
-  if (!database->handle_.open()) {
-    throw Worded(Kind::Unreadable, path);
-  }
+  if (!database->handle.open()) throw Worded(Kind::Unreadable, path);
   const QString main = QStringLiteral("main");
   try {
     database->CheckHead(main, path);
   } catch (const StoreError &error) {
-    if (mode != Mode::ReadOnly || error.Reason() != Kind::ReadOnly) {
-      throw;
-    }
+    if (mode != Mode::ReadOnly || error.Reason() != Kind::ReadOnly) throw;
     UndoCutOffSave(path);
     database->CheckHead(main, path);
   }
@@ -194,8 +175,8 @@ std::shared_ptr<Database> Database::OpenDatabase(const QString &path, Mode mode,
 
 // Only with a rollback journal is a change over two files one change. Some tools leave a file in another journal mode.
 void Database::UseRollbackJournal() {
-  if (mode_ == Mode::ReadWrite) {
-    QSqlQuery query(handle_);
+  if (mode == Mode::ReadWrite) {
+    QSqlQuery query(handle);
     query.exec(QStringLiteral("PRAGMA journal_mode = DELETE"));
   }
 }
@@ -205,9 +186,7 @@ void Database::UndoCutOffSave(const QString &path) {
   try {
     OpenDatabase(path, Mode::ReadWrite, Check::HeadOnly);
   } catch (const StoreError &error) {
-    if (error.Reason() != Kind::ReadOnly) {
-      throw;
-    }
+    if (error.Reason() != Kind::ReadOnly) throw;
     throw Told(
         Kind::ReadOnly,
         QT_TRANSLATE_NOOP("Database",
@@ -219,92 +198,74 @@ void Database::UndoCutOffSave(const QString &path) {
 
 void Database::SetBusyTimeout(int milliseconds) { busyTimeoutMs = milliseconds; }
 
-Database::Database(QString path, Mode mode) : path_(std::move(path)), mode_(mode) {
+Database::Database(QString file, Mode openMode) : path(std::move(file)), mode(openMode) {
   static std::atomic<int> opened{0};
-  connection_ = QStringLiteral("orvani-store-%1").arg(++opened);
-  handle_ = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), connection_);
-  handle_.setDatabaseName(path_);
+  connection = QStringLiteral("orvani-store-%1").arg(++opened);
+  handle = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), connection);
+  handle.setDatabaseName(path);
   QString options = QStringLiteral("QSQLITE_BUSY_TIMEOUT=%1").arg(busyTimeoutMs.load());
-  if (mode_ == Mode::ReadOnly) {
-    options += QStringLiteral(";QSQLITE_OPEN_READONLY");
-  }
-  handle_.setConnectOptions(options);
+  if (mode == Mode::ReadOnly) options += QStringLiteral(";QSQLITE_OPEN_READONLY");
+  handle.setConnectOptions(options);
 }
 
 Database::~Database() {
-  handle_.close();
-  handle_ = QSqlDatabase();  // Qt wants the last handle gone before the connection goes
-  QSqlDatabase::removeDatabase(connection_);
+  handle.close();
+  handle = QSqlDatabase();  // Qt wants the last handle gone before the connection goes
+  QSqlDatabase::removeDatabase(connection);
 }
 
-void Database::CheckHead(const QString &schema, const QString &path) const {
-  if (Pragma(schema, "application_id", path) != kApplicationId) {
-    throw Worded(Kind::Foreign, path);
-  }
-  if (Pragma(schema, "user_version", path) > kNewestVersion) {
-    throw Worded(Kind::NewerVersion, path);
-  }
+void Database::CheckHead(const QString &schema, const QString &file) const {
+  if (Pragma(schema, "application_id", file) != ApplicationId) throw Worded(Kind::Foreign, file);
+  if (Pragma(schema, "user_version", file) > NewestVersion) throw Worded(Kind::NewerVersion, file);
 }
 
-void Database::CheckEveryPage(const QString &schema, const QString &path) const {
-  QSqlQuery check(handle_);
-  if (!check.exec(QStringLiteral("PRAGMA %1.quick_check(1)").arg(schema)) || !check.next()) {
-    throw Failure(check, path);
-  }
-  if (check.value(0).toString() != QLatin1String("ok")) {
-    throw Damage(path);
-  }
+void Database::CheckEveryPage(const QString &schema, const QString &file) const {
+  QSqlQuery check(handle);
+  if (!check.exec(QStringLiteral("PRAGMA %1.quick_check(1)").arg(schema)) || !check.next()) throw Failure(check, file);
+  if (check.value(0).toString() != QLatin1String("ok")) throw Damage(file);
 }
 
 qlonglong Database::DataVersion(const QString &schema) const {
-  return Pragma(schema, "data_version", schema == QLatin1String("main") ? path_ : attached_.value(schema));
+  return Pragma(schema, "data_version", schema == QLatin1String("main") ? path : attached.value(schema));
 }
 
-qlonglong Database::Pragma(const QString &schema, const char *name, const QString &path) const {
-  QSqlQuery query(handle_);
-  if (!query.exec(QStringLiteral("PRAGMA %1.%2").arg(schema, QLatin1String(name))) || !query.next()) {
-    throw Failure(query, path);
-  }
+qlonglong Database::Pragma(const QString &schema, const char *name, const QString &file) const {
+  QSqlQuery query(handle);
+  if (!query.exec(QStringLiteral("PRAGMA %1.%2").arg(schema, QLatin1String(name))) || !query.next()) throw Failure(query, file);
   return query.value(0).toLongLong();
 }
 
 Recordset Database::OpenRecordset(const QString &sql, const QVariantList &bound) { return Recordset(shared_from_this(), sql, bound); }
 
 int Database::Execute(const QString &sql, const QVariantList &bound) {
-  QSqlQuery query(handle_);
+  QSqlQuery query(handle);
   Run(query, sql, bound);
   return query.numRowsAffected();
 }
 
 QSet<QString> Database::Columns(const QString &table) const {
-  QSqlQuery query(handle_);
+  QSqlQuery query(handle);
   Run(query, QStringLiteral("SELECT name FROM pragma_table_info(?)"), {table});
   QSet<QString> columns;
-  while (query.next()) {
-    columns.insert(query.value(0).toString().toLower());
-  }
+  while (query.next()) columns.insert(query.value(0).toString().toLower());
   return columns;
 }
 
 void Database::Run(QSqlQuery &query, const QString &sql, const QVariantList &bound) const {
   bool good = query.prepare(sql);
-  for (const QVariant &value : bound) {
-    query.addBindValue(Bindable(value));
-  }
+  for (const QVariant &value : bound) query.addBindValue(Bindable(value));
   good = good && query.exec();
-  if (!good) {
-    throw Failure(query);
-  }
+  if (!good) throw Failure(query);
 }
 
-void Database::Attach(const QString &path, const QString &schema) {
+void Database::Attach(const QString &file, const QString &schema) {
   CheckedSchema(schema);
-  CheckFile(path, mode_);
-  Execute(QStringLiteral("ATTACH DATABASE ? AS %1").arg(schema), {path});
-  attached_.insert(schema, path);
+  CheckFile(file, mode);
+  Execute(QStringLiteral("ATTACH DATABASE ? AS %1").arg(schema), {file});
+  attached.insert(schema, file);
   try {
-    CheckHead(schema, path);
-    CheckEveryPage(schema, path);
+    CheckHead(schema, file);
+    CheckEveryPage(schema, file);
   } catch (const StoreError &) {
     Detach(schema);
     throw;
@@ -313,38 +274,38 @@ void Database::Attach(const QString &path, const QString &schema) {
 
 void Database::Detach(const QString &schema) {
   Execute(QStringLiteral("DETACH DATABASE %1").arg(CheckedSchema(schema)));
-  attached_.remove(schema);
+  attached.remove(schema);
 }
 
 StoreError Database::Failure(const QSqlQuery &query) const {
   // The engine does not tell which of several files refused.
-  QStringList paths{path_};
-  paths += attached_.values();
+  QStringList paths{path};
+  paths += attached.values();
   return Failure(query, paths.join(QStringLiteral("\" or \"")));
 }
 
-StoreError Database::Failure(const QSqlQuery &query, const QString &path) const {
+StoreError Database::Failure(const QSqlQuery &query, const QString &file) const {
   const int code = query.lastError().nativeErrorCode().toInt();
-  if (code == kReplaced) {
+  if (code == Replaced) {
     return Told(Kind::ReadOnly,
                 QT_TRANSLATE_NOOP("Database",
                                   "The data file \"%1\" was replaced while this program had it open, so nothing can be saved in it. Please "
                                   "start this program again and repeat the change."),
-                {path});
+                {file});
   }
   switch (code & 0xFF) {
-    case kBusy:
-    case kLocked: return Worded(Kind::Locked, path);
-    case kReadOnly:
-    case kCannotOpen:  // the journal beside the file could not be made
-      return Worded(Kind::ReadOnly, path);
-    case kInputOutput:
-    case kFull: return Worded(Kind::NoSpace, path);
-    case kCorrupt:
-    case kNotADatabase:  // the file's first bytes were right, so it was one
-      return Damage(path);
+    case Busy:
+    case Locked: return Worded(Kind::Locked, file);
+    case ReadOnly:
+    case CannotOpen:  // the journal beside the file could not be made
+      return Worded(Kind::ReadOnly, file);
+    case InputOutput:
+    case Full: return Worded(Kind::NoSpace, file);
+    case Corrupt:
+    case NotADatabase:  // the file's first bytes were right, so it was one
+      return Damage(file);
     default:
       return StoreError(
-          tr("The data file \"%1\" refused a request: %2.").arg(QDir::toNativeSeparators(path), query.lastError().databaseText()));
+          tr("The data file \"%1\" refused a request: %2.").arg(QDir::toNativeSeparators(file), query.lastError().databaseText()));
   }
 }

@@ -4,7 +4,7 @@
 
 #include <QString>
 
-/// What a PDF tells about itself. Keywords are separated by semicolons.
+// What a PDF tells about itself. Keywords are separated by semicolons.
 struct DocumentInfo {
   QString title;
   QString author;

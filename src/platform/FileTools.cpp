@@ -28,9 +28,7 @@ QString Tr(const char *text) { return QCoreApplication::translate("FileTools", t
 QByteArray ReadWholeFile(const QString &path) {
   QFile file(path);
   QByteArray content;
-  if (file.open(QIODevice::ReadOnly)) {
-    content = file.readAll();
-  }
+  if (file.open(QIODevice::ReadOnly)) content = file.readAll();
   if (file.error() != QFileDevice::NoError) {
     throw StoreError(
         Tr(QT_TRANSLATE_NOOP("FileTools", "The file \"%1\" cannot be read (%2). Please check that it is there and that you may read it."))
@@ -47,9 +45,7 @@ QByteArray ReadFileIfAny(const QString &path) {
 
 void WriteWholeFile(const QString &path, const QByteArray &content) {
   const QString folder = QFileInfo(path).absolutePath();
-  if (!QDir().mkpath(folder)) {
-    ThrowNotWritten(path, Tr(QT_TRANSLATE_NOOP("FileTools", "its folder cannot be made")));
-  }
+  if (!QDir().mkpath(folder)) ThrowNotWritten(path, Tr(QT_TRANSLATE_NOOP("FileTools", "its folder cannot be made")));
   if (QFileInfo(path).isDir()) {
     throw StoreError(Tr(QT_TRANSLATE_NOOP("FileTools", "There is a folder at \"%1\" where a file should be. Please move it away."))
                          .arg(QDir::toNativeSeparators(path)),
@@ -57,9 +53,8 @@ void WriteWholeFile(const QString &path, const QByteArray &content) {
   }
   QSaveFile file(path);
   // Flushed by itself: what a full disk refuses at the closing is not noticed by commit, which would rename an empty file into place.
-  if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.flush() || !file.commit()) {
+  if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.flush() || !file.commit())
     ThrowNotWritten(path, file.errorString());
-  }
 }
 
 bool IsTaken(const QString &path) {
@@ -69,9 +64,7 @@ bool IsTaken(const QString &path) {
 
 QString SetAside(const QString &path) {
   QString name = path + QStringLiteral(".damaged");
-  for (int number = 2; IsTaken(name); ++number) {
-    name = QStringLiteral("%1.%2.damaged").arg(path).arg(number);
-  }
+  for (int number = 2; IsTaken(name); ++number) name = QStringLiteral("%1.%2.damaged").arg(path).arg(number);
   // Not QFile::rename, which copies where it cannot move: that would leave half a file on a full disk.
   if (std::rename(QFile::encodeName(path).constData(), QFile::encodeName(name).constData()) != 0) {
     throw StoreError(Tr(QT_TRANSLATE_NOOP("FileTools", "\"%1\" cannot be moved away. Please allow writing to its folder."))
@@ -84,8 +77,7 @@ QString SetAside(const QString &path) {
 void CheckRoom(const QString &path, qint64 bytes) {
   QDir().mkpath(QFileInfo(path).absolutePath());
   QSaveFile probe(path);
-  if (!probe.open(QIODevice::WriteOnly) || probe.write(QByteArray(bytes, ' ')) != bytes || !probe.flush()) {
+  if (!probe.open(QIODevice::WriteOnly) || probe.write(QByteArray(bytes, ' ')) != bytes || !probe.flush())
     ThrowNotWritten(path, probe.errorString());
-  }
   probe.cancelWriting();
 }

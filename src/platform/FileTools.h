@@ -7,24 +7,24 @@
 
 // Whole files at once, for the other sources of this folder.
 
-/// @throws StoreError that names the file
+// Throws StoreError that names the file.
 QByteArray ReadWholeFile(const QString &path);
 
-/// The same for what can be done without: empty where there is no such file or it cannot be read.
+// The same for what can be done without: empty where there is no such file or it cannot be read.
 QByteArray ReadFileIfAny(const QString &path);
 
-/// Writes aside and renames, so that the file is the old one or the new one and never half of each. Makes the folder when needed.
-/// @throws StoreError that names the file, which is then as it was
+// Writes aside and renames, so that the file is the old one or the new one and never half of each. Makes the folder when needed.
+// Throws StoreError that names the file, which is then as it was.
 void WriteWholeFile(const QString &path, const QByteArray &content);
 
-/// Moves a file, link or folder out of the way to a name beside it that no other has: "RECOS.Dat.damaged", "RECOS.Dat.2.damaged", ...
-/// Returns that name.
-/// @throws StoreError when it cannot be moved
+// Moves a file, link or folder out of the way to a name beside it that no other has: "RECOS.Dat.damaged", "RECOS.Dat.2.damaged", ...
+// Returns that name.
+// Throws StoreError when it cannot be moved.
 QString SetAside(const QString &path);
 
-/// Whether a file of that size could be written in the place of `path`, which stays as it is.
-/// @throws StoreError that names the file
+// Whether a file of that size could be written in the place of `path`, which stays as it is.
+// Throws StoreError that names the file.
 void CheckRoom(const QString &path, qint64 bytes);
 
-/// Whether anything lies under the name, a link into nothing too.
+// Whether anything lies under the name, a link into nothing too.
 bool IsTaken(const QString &path);

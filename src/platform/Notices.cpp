@@ -21,15 +21,14 @@ Notices::Handler &Current() {
 
 void Notices::Show(const Notice &notice) {
   // A copy, since a handler that opens a box may lead to another Install while it runs.
-  if (const Handler handler = Current()) {
+  if (const Handler handler = Current())
     handler(notice);
-  } else {
+  else
     WriteLine(notice);
-  }
 }
 
 Notices::Handler Notices::Install(Handler handler) { return std::exchange(Current(), std::move(handler)); }
 
-NoticeRecorder::NoticeRecorder() : former_(Notices::Install([this](const Notice &notice) { seen_.push_back(notice); })) {}
+NoticeRecorder::NoticeRecorder() : former(Notices::Install([this](const Notice &notice) { seen.push_back(notice); })) {}
 
-NoticeRecorder::~NoticeRecorder() { Notices::Install(std::move(former_)); }
+NoticeRecorder::~NoticeRecorder() { Notices::Install(std::move(former)); }

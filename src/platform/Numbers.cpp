@@ -17,18 +17,12 @@ std::errc Read(const QString &text, Number &number) {
   QByteArray plain = text.trimmed().toUtf8();
   if (plain.startsWith('+')) {
     plain.remove(0, 1);
-    if (plain.startsWith('-')) {
-      return std::errc::invalid_argument;
-    }
+    if (plain.startsWith('-')) return std::errc::invalid_argument;
   }
   const char first = plain.isEmpty() ? '\0' : plain[plain.startsWith('-') && plain.size() > 1 ? 1 : 0];
-  if (first != '.' && (first < '0' || first > '9')) {
-    return std::errc::invalid_argument;
-  }
+  if (first != '.' && (first < '0' || first > '9')) return std::errc::invalid_argument;
   const auto [end, fault] = std::from_chars(plain.constData(), plain.constData() + plain.size(), number);
-  if (fault == std::errc() && end != plain.constData() + plain.size()) {
-    return std::errc::invalid_argument;
-  }
+  if (fault == std::errc() && end != plain.constData() + plain.size()) return std::errc::invalid_argument;
   return fault;
 }
 
@@ -47,12 +41,9 @@ double TextToNumber(const QString &text, const QString &what) {
 }
 
 QString NumberToText(double number) {
-  if (!std::isfinite(number)) {
+  if (!std::isfinite(number))
     throw ArithmeticError(QCoreApplication::translate("Numbers", "A calculation gave no number that can be shown."));
-  }
-  if (number == 0) {
-    return QStringLiteral("0");
-  }
+  if (number == 0) return QStringLiteral("0");
   std::array<char, 400> text{};  // the longest doubles have a few more than 300 digits before or after the point
   const auto [end, fault] = std::to_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed);
   Q_ASSERT(fault == std::errc());

@@ -7,15 +7,15 @@
 // Numbers to text and back, always with "." for decimals and no grouping, whatever the machine's language is:
 // stored time zones such as 5.30 must mean the same on every machine.
 
-/// Reads a decimal number such as 5.30, -3.5, +00.00 or 1e3; blanks around it do not matter.
-/// @param what names the field in the message, such as "time zone"
-/// @throws ConversionError for anything else: an empty text, "5,30", "inf", "0x10", a number too large
+// Reads a decimal number such as 5.30, -3.5, +00.00 or 1e3; blanks around it do not matter.
+// what: names the field in the message, such as "time zone".
+// Throws ConversionError for anything else: an empty text, "5,30", "inf", "0x10", a number too large.
 double TextToNumber(const QString &text, const QString &what);
 
-/// The shortest plain decimal text (no exponent) that TextToNumber reads back as the same number: 5.5 -> "5.5", 5 -> "5", -0 -> "0".
-/// @throws ArithmeticError for a number that is not finite
+// The shortest plain decimal text (no exponent) that TextToNumber reads back as the same number: 5.5 -> "5.5", 5 -> "5", -0 -> "0".
+// Throws ArithmeticError for a number that is not finite.
 QString NumberToText(double number);
 
-/// Reads a whole number, optionally signed; blanks around it do not matter.
-/// @throws ConversionError for anything else, also for one outside the range of an int
+// Reads a whole number, optionally signed; blanks around it do not matter.
+// Throws ConversionError for anything else, also for one outside the range of an int.
 int TextToWhole(const QString &text, const QString &what);

@@ -4,10 +4,10 @@
 
 #include <QString>
 
-/// A font as printing code names it.
+// A font as printing code names it.
 struct PrintFont {
   QString name = QStringLiteral("Arial");
-  double size = 10;  ///< points
+  double size = 10;  // points
   bool bold = false;
   bool italic = false;
   bool underline = false;

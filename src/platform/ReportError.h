@@ -4,13 +4,13 @@
 
 #include "platform/Errors.h"
 
-/// Paper or PDF that cannot be made: a printer that is gone, a page that it refuses.
+// Paper or PDF that cannot be made: a printer that is gone, a page that it refuses.
 class ReportError : public Error {
  public:
   using Error::Error;
 };
 
-/// The user stopped the report; nothing was left behind.
+// The user stopped the report; nothing was left behind.
 class ReportCancelled : public ReportError {
  public:
   using ReportError::ReportError;

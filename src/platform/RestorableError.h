@@ -4,16 +4,16 @@
 
 #include "platform/Errors.h"
 
-/// A user store that cannot be opened, or should not be trusted, while a sound copy of it is kept. The sentence tells of when the copy is.
+// A user store that cannot be opened, or should not be trusted, while a sound copy of it is kept. The sentence tells of when the copy is.
 class RestorableError : public StoreError {
  public:
-  /// Unusable: there is nothing to go on with but the copy. Doubtful: the store opens, but its bytes changed and no save did it.
+  // Unusable: there is nothing to go on with but the copy. Doubtful: the store opens, but its bytes changed and no save did it.
   enum class State { Unusable, Doubtful };
 
-  RestorableError(QString sentence, Kind kind, State state) : StoreError(std::move(sentence), kind), state_(state) {}
+  RestorableError(QString text, Kind reason, State storeState) : StoreError(std::move(text), reason), state(storeState) {}
 
-  State StoreState() const { return state_; }
+  State StoreState() const { return state; }
 
  private:
-  State state_;
+  State state;
 };

@@ -21,19 +21,17 @@ namespace {
 using Kind = StoreError::Kind;
 
 // Files that the store engine lays beside a store. Left there, they would be played into the copy that is put back.
-constexpr std::array kCompanions{"-journal", "-wal", "-shm"};
+constexpr std::array Companions{"-journal", "-wal", "-shm"};
 
 // The bytes of a store, and nobody writes into it for as long as this lives. The file stays open to the end: the system gives up all
 // locks of a program on a file as soon as the program closes that file anywhere.
 class HeldFile {
  public:
-  explicit HeldFile(Database &store) : file_(store.Path()), store_(store) {
-    if (!file_.open(QIODevice::ReadOnly)) {
-      ReadWholeFile(store.Path());  // tells the reason
-    }
-    store_.Execute(QStringLiteral("BEGIN"));
+  explicit HeldFile(Database &held) : file(held.Path()), store(held) {
+    if (!file.open(QIODevice::ReadOnly)) ReadWholeFile(store.Path());  // tells the reason
+    store.Execute(QStringLiteral("BEGIN"));
     try {
-      store_.OpenRecordset(QStringLiteral("SELECT count(*) FROM sqlite_master"));
+      store.OpenRecordset(QStringLiteral("SELECT count(*) FROM sqlite_master"));
     } catch (const StoreError &) {
       LetGo();
       throw;
@@ -44,21 +42,21 @@ class HeldFile {
   HeldFile &operator=(const HeldFile &) = delete;
 
   QByteArray Content() {
-    file_.seek(0);
-    return file_.readAll();
+    file.seek(0);
+    return file.readAll();
   }
 
  private:
   void LetGo() {
     try {
-      store_.Execute(QStringLiteral("ROLLBACK"));
+      store.Execute(QStringLiteral("ROLLBACK"));
     } catch (const StoreError &) {
       // Nothing was written, so there is nothing to undo.
     }
   }
 
-  QFile file_;
-  Database &store_;
+  QFile file;
+  Database &store;
 };
 
 // The count of saves in a store's head. Each save raises it, and the second place where it is written follows.
@@ -68,9 +66,8 @@ bool IsCountWhole(const QByteArray &content) { return SaveCount(content) == cont
 QStringList Tables(Database &store, const QString &schema) {
   QStringList names;
   for (Recordset rows = store.OpenRecordset(QStringLiteral("SELECT name FROM %1.sqlite_master WHERE type = 'table'").arg(schema));
-       !rows.AtEnd(); rows.MoveNext()) {
+       !rows.AtEnd(); rows.MoveNext())
     names << rows.Field(QStringLiteral("name")).toString();
-  }
   return names;
 }
 
@@ -83,10 +80,10 @@ bool HasRows(Database &store, const QString &schema, const QString &table) {
 // The kept copy's tables beside the store's, for questions over both.
 class BesideCopy {
  public:
-  explicit BesideCopy(Database &store) : store_(store) { store_.Attach(StoreKeeper::KeptPath(store.Path()), QStringLiteral("kept")); }
+  explicit BesideCopy(Database &opened) : store(opened) { store.Attach(StoreKeeper::KeptPath(store.Path()), QStringLiteral("kept")); }
   ~BesideCopy() {
     try {
-      store_.Detach(QStringLiteral("kept"));
+      store.Detach(QStringLiteral("kept"));
     } catch (const StoreError &) {
       // It goes with the store's own connection.
     }
@@ -95,12 +92,10 @@ class BesideCopy {
   BesideCopy &operator=(const BesideCopy &) = delete;
 
   bool CopyHoldsWhatTheStoreLost() const {
-    const QStringList present = Tables(store_, QStringLiteral("main"));
-    for (const QString &table : Tables(store_, QStringLiteral("kept"))) {
-      const bool isLost = !present.contains(table, Qt::CaseInsensitive) || !HasRows(store_, QStringLiteral("main"), table);
-      if (isLost && HasRows(store_, QStringLiteral("kept"), table)) {
-        return true;
-      }
+    const QStringList present = Tables(store, QStringLiteral("main"));
+    for (const QString &table : Tables(store, QStringLiteral("kept"))) {
+      const bool isLost = !present.contains(table, Qt::CaseInsensitive) || !HasRows(store, QStringLiteral("main"), table);
+      if (isLost && HasRows(store, QStringLiteral("kept"), table)) return true;
     }
     return false;
   }
@@ -109,11 +104,9 @@ class BesideCopy {
 
   // Whether every row of every table and every index say the same. A save that was cut off leaves bytes behind in pages that hold nothing.
   bool HasSameRows() const {
-    const Recordset check = store_.OpenRecordset(QStringLiteral("PRAGMA main.integrity_check(1)"));
-    if (check.IsEmpty() || check.Field(QStringLiteral("integrity_check")).toString() != QLatin1String("ok")) {
-      return false;
-    }
-    const QStringList tables = Tables(store_, QStringLiteral("kept"));
+    const Recordset check = store.OpenRecordset(QStringLiteral("PRAGMA main.integrity_check(1)"));
+    if (check.IsEmpty() || check.Field(QStringLiteral("integrity_check")).toString() != QLatin1String("ok")) return false;
+    const QStringList tables = Tables(store, QStringLiteral("kept"));
     return std::all_of(tables.begin(), tables.end(), [this](const QString &table) { return IsSame(table); });
   }
 
@@ -121,10 +114,9 @@ class BesideCopy {
   // Every value written out, so that columns which take "a" and "A" for the same are compared to the letter.
   QString RowsOf(const QString &schema, const QString &table) const {
     QStringList values{QStringLiteral("rowid")};
-    for (Recordset column = store_.OpenRecordset(QStringLiteral("PRAGMA kept.table_info(%1)").arg(Quoted(table))); !column.AtEnd();
-         column.MoveNext()) {
+    for (Recordset column = store.OpenRecordset(QStringLiteral("PRAGMA kept.table_info(%1)").arg(Quoted(table))); !column.AtEnd();
+         column.MoveNext())
       values << QStringLiteral("quote(%1)").arg(Quoted(column.Field(QStringLiteral("name")).toString()));
-    }
     return QStringLiteral("SELECT %1 FROM %2.%3").arg(values.join(u','), schema, Quoted(table));
   }
 
@@ -132,10 +124,10 @@ class BesideCopy {
     const QString here = RowsOf(QStringLiteral("main"), table);
     const QString there = RowsOf(QStringLiteral("kept"), table);
     const QString differs = QStringLiteral("SELECT 1 AS Answer FROM (%1 EXCEPT %2) LIMIT 1");
-    return store_.OpenRecordset(differs.arg(here, there)).IsEmpty() && store_.OpenRecordset(differs.arg(there, here)).IsEmpty();
+    return store.OpenRecordset(differs.arg(here, there)).IsEmpty() && store.OpenRecordset(differs.arg(there, here)).IsEmpty();
   }
 
-  Database &store_;
+  Database &store;
 };
 
 }  // namespace
@@ -160,10 +152,8 @@ std::optional<QDateTime> StoreKeeper::SoundCopyMoment(const QString &path) {
 std::shared_ptr<Database> StoreKeeper::Open(const QString &path, Database::Mode mode, Doubt doubt) {
   const auto offer = [&](const StoreError &error, RestorableError::State state) {
     const std::optional<QDateTime> moment = SoundCopyMoment(path);
-    if (!moment) {
-      throw error;
-    }
-    throw RestorableError(error.Sentence() + u' ' + tr("A copy kept on %1 can be put back.").arg(moment->toString(kMomentFormat)),
+    if (!moment) throw error;
+    throw RestorableError(error.Sentence() + u' ' + tr("A copy kept on %1 can be put back.").arg(moment->toString(MomentFormat)),
                           error.Reason(), state);
   };
   try {
@@ -195,15 +185,11 @@ void StoreKeeper::CheckContent(Database &store, Doubt doubt) {
   {
     HeldFile file(store);
     content = file.Content();
-    if (content == copy) {
-      return;
-    }
+    if (content == copy) return;
     store.CheckEveryPage();
   }
   const bool isUnexplained = SaveCount(content) == SaveCount(copy) || !IsCountWhole(content);
-  if (doubt == Doubt::Accept || copy.isEmpty() || !isUnexplained || !SoundCopyMoment(store.Path())) {
-    return;
-  }
+  if (doubt == Doubt::Accept || copy.isEmpty() || !isUnexplained || !SoundCopyMoment(store.Path())) return;
   bool isSame = false;
   auto state = RestorableError::State::Unusable;
   try {
@@ -247,17 +233,11 @@ void StoreKeeper::KeepCopy(const QString &path) {
 void StoreKeeper::CopySound(Database &store) {
   const QString kept = KeptPath(store.Path());
   if (QFileInfo(kept).isFile()) {
-    if (ReadWholeFile(kept) == HeldFile(store).Content()) {
-      return;
-    }
+    if (ReadWholeFile(kept) == HeldFile(store).Content()) return;
     try {
-      if (BesideCopy(store).CopyHoldsWhatTheStoreLost()) {
-        return;
-      }
+      if (BesideCopy(store).CopyHoldsWhatTheStoreLost()) return;
     } catch (const StoreError &) {
-      if (SoundCopyMoment(store.Path())) {
-        throw;
-      }
+      if (SoundCopyMoment(store.Path())) throw;
       SetAside(kept);  // damaged as it is, it may hold what is nowhere else
     }
   }
@@ -276,14 +256,10 @@ QString StoreKeeper::RestoreCopy(const QString &path) {
   std::vector<std::pair<QString, QString>> moved;
   try {
     const QString aside = IsTaken(place) ? SetAside(place) : QString();
-    if (!aside.isEmpty()) {
-      moved.emplace_back(place, aside);
-    }
-    for (const char *companion : kCompanions) {
+    if (!aside.isEmpty()) moved.emplace_back(place, aside);
+    for (const char *companion : Companions) {
       const QString beside = place + QLatin1String(companion);
-      if (!IsTaken(beside)) {
-        continue;
-      }
+      if (!IsTaken(beside)) continue;
       // Under the damaged store's new name it stays that store's.
       const QString paired = aside + QLatin1String(companion);
       const bool isPaired = !aside.isEmpty() && QFile::rename(beside, paired);

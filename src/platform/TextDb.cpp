@@ -10,8 +10,8 @@
 
 namespace {
 
-constexpr std::array kTables{"CNVT",      "Daily",   "Transits", "MarMatch", "Muhu",    "Bhava",
-                             "Nakshatra", "FORTUNE", "ASP",      "YOGAS",    "YOGNAME", "VPHALA"};
+constexpr std::array Tables{"CNVT",      "Daily",   "Transits", "MarMatch", "Muhu",    "Bhava",
+                            "Nakshatra", "FORTUNE", "ASP",      "YOGAS",    "YOGNAME", "VPHALA"};
 
 }  // namespace
 
@@ -23,50 +23,42 @@ struct StoreTextDb::Queries {
   QHash<QString, std::shared_ptr<OfTable>> byTable;  // by lower-case name
 };
 
-StoreTextDb::StoreTextDb(std::shared_ptr<Database> database) : database_(std::move(database)), queries_(std::make_unique<Queries>()) {
+StoreTextDb::StoreTextDb(std::shared_ptr<Database> languageDb) : database(std::move(languageDb)), queries(std::make_unique<Queries>()) {
   const auto prepared = [this](const QString &sql) {
-    QSqlQuery query(database_->Handle());
+    QSqlQuery query(database->Handle());
     query.setForwardOnly(true);
-    if (!query.prepare(sql)) {
-      throw database_->Failure(query);
-    }
+    if (!query.prepare(sql)) throw database->Failure(query);
     return query;
   };
-  for (const char *name : kTables) {
+  for (const char *name : Tables) {
     const QString table = QLatin1String(name);
     // By the head alone several categories may answer: the one that stands first in the source of the texts does.
     auto ofTable = std::make_shared<Queries::OfTable>(Queries::OfTable{
         prepared(QStringLiteral("SELECT Val FROM %1 WHERE Head = ? COLLATE NOCASE ORDER BY rowid LIMIT 1").arg(table)),
         prepared(QStringLiteral("SELECT Val FROM %1 WHERE Head = ? COLLATE NOCASE AND Category = ? COLLATE NOCASE ORDER BY rowid LIMIT 1")
                      .arg(table))});
-    queries_->byTable.insert(table.toLower(), std::move(ofTable));
+    queries->byTable.insert(table.toLower(), std::move(ofTable));
   }
   // One read transaction for all lookups: taking and giving back the file's lock each time costs three times the lookup itself.
-  database_->Execute(QStringLiteral("BEGIN"));
+  database->Execute(QStringLiteral("BEGIN"));
 }
 
 StoreTextDb::~StoreTextDb() {
-  queries_.reset();
+  queries.reset();
   try {
-    database_->Execute(QStringLiteral("ROLLBACK"));
+    database->Execute(QStringLiteral("ROLLBACK"));
   } catch (const StoreError &) {
     // Nothing was written, so there is nothing to undo.
   }
 }
 
 TextRow StoreTextDb::Find(const QString &table, const QString &head, const QString &category) {
-  const auto found = queries_->byTable.constFind(table.toLower());
-  if (found == queries_->byTable.constEnd()) {
-    throw StoreError(tr("The texts in \"%1\" have no table \"%2\".").arg(database_->Path(), table));
-  }
+  const auto found = queries->byTable.constFind(table.toLower());
+  if (found == queries->byTable.constEnd()) throw StoreError(tr("The texts in \"%1\" have no table \"%2\".").arg(database->Path(), table));
   QSqlQuery &query = category.isEmpty() ? (*found)->byHead : (*found)->byHeadAndCategory;
   query.bindValue(0, head.isNull() ? QStringLiteral("") : head);
-  if (!category.isEmpty()) {
-    query.bindValue(1, category);
-  }
-  if (!query.exec()) {
-    throw database_->Failure(query);
-  }
+  if (!category.isEmpty()) query.bindValue(1, category);
+  if (!query.exec()) throw database->Failure(query);
   TextRow row;
   if (query.next()) {
     const QVariant val = query.value(0);

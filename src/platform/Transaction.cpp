@@ -4,12 +4,12 @@
 
 #include "platform/Database.h"
 
-Transaction::Transaction(Database &database) : database_(database) { database_.Execute(QStringLiteral("BEGIN IMMEDIATE")); }
+Transaction::Transaction(Database &store) : database(store) { database.Execute(QStringLiteral("BEGIN IMMEDIATE")); }
 
 Transaction::~Transaction() {
-  if (open_) {
+  if (open) {
     try {
-      database_.Execute(QStringLiteral("ROLLBACK"));
+      database.Execute(QStringLiteral("ROLLBACK"));
     } catch (const StoreError &) {
       // After some failures (a full disk) the engine has already undone everything, and there is nothing left to roll back.
     }
@@ -17,6 +17,6 @@ Transaction::~Transaction() {
 }
 
 void Transaction::Commit() {
-  database_.Execute(QStringLiteral("COMMIT"));
-  open_ = false;
+  database.Execute(QStringLiteral("COMMIT"));
+  open = false;
 }

@@ -15,11 +15,11 @@
 
 class QSettings;
 
-/// The per-user store of settings, by section and key, all values texts. Sections and keys compare without regard to case:
-/// the chart style is written as "Kundstyle" in one place and read as "KundStyle" in another.
+// The per-user store of settings, by section and key, all values texts. Sections and keys compare without regard to case:
+// the chart style is written as "Kundstyle" in one place and read as "KundStyle" in another.
 class UserSettings {
  public:
-  /// A value to be stored.
+  // A value to be stored.
   struct Change {
     Change(QString ofSection, QString ofKey, QString newValue)
         : section(std::move(ofSection)), key(std::move(ofKey)), value(std::move(newValue)) {}
@@ -32,82 +32,82 @@ class UserSettings {
 
   virtual ~UserSettings() = default;
 
-  /// The stored text, or nothing when the key was never stored.
+  // The stored text, or nothing when the key was never stored.
   virtual std::optional<QString> Stored(const QString &section, const QString &key) const = 0;
-  /// Stores all of them in one write: the file takes all or none. For this run they hold either way.
-  /// @throws StoreError when they cannot be kept
+  // Stores all of them in one write: the file takes all or none. For this run they hold either way.
+  // Throws StoreError when they cannot be kept.
   virtual void SetAll(const std::vector<Change> &changes) = 0;
 
-  /// Takes in what other programs have stored since, and tells whether that was anything. Between two calls the values stand still, so that
-  /// all charts on the screen follow the same ones.
+  // Takes in what other programs have stored since, and tells whether that was anything. Between two calls the values stand still, so that
+  // all charts on the screen follow the same ones.
   virtual bool Refresh() { return false; }
 
   QString Value(const QString &section, const QString &key, const QString &fallback = QString()) const;
-  /// A text that is no whole number gives the fallback.
+  // A text that is no whole number gives the fallback.
   int IntValue(const QString &section, const QString &key, int fallback) const;
-  /// "True" in any case, "1" and "-1" are true; any other stored text is false.
+  // "True" in any case, "1" and "-1" are true; any other stored text is false.
   bool BoolValue(const QString &section, const QString &key, bool fallback) const;
 
   QString Value(const SettingKey &key) const;
   int IntValue(const SettingKey &key) const;
   bool BoolValue(const SettingKey &key) const;
-  /// One alone, as SetAll does.
+  // One alone, as SetAll does.
   void SetValue(const QString &section, const QString &key, const QString &value) { SetAll({{section, key, value}}); }
   void SetValue(const SettingKey &key, const QString &value) { SetAll({{key, value}}); }
   void SetIntValue(const SettingKey &key, int value);
-  /// Stores "True" or "False".
+  // Stores "True" or "False".
   void SetBoolValue(const SettingKey &key, bool value);
 };
 
-/// Settings in a file of the user's configuration folder; each write is on disk when the call returns. Programs that write at the same
-/// time keep each other's values.
+// Settings in a file of the user's configuration folder; each write is on disk when the call returns. Programs that write at the same
+// time keep each other's values.
 class FileUserSettings : public UserSettings {
   Q_DECLARE_TR_FUNCTIONS(FileUserSettings)
 
  public:
-  /// @param path the file; empty for orvani/orvani.conf in the user's configuration folder. One that does not exist holds no settings yet.
-  /// @throws StoreError when the file is there and cannot be read as settings
-  explicit FileUserSettings(const QString &path = QString());
+  // settingsFile: its path; empty for orvani/orvani.conf in the user's configuration folder. One that does not exist holds no settings yet.
+  // Throws StoreError when the file is there and cannot be read as settings.
+  explicit FileUserSettings(const QString &settingsFile = QString());
   ~FileUserSettings() override;
 
   std::optional<QString> Stored(const QString &section, const QString &key) const override;
   void SetAll(const std::vector<Change> &changes) override;
   bool Refresh() override;
 
-  QString Path() const { return PathOf(path_); }
-  /// Where the settings of a constructor's `path` lie.
-  static QString PathOf(const QString &path);
+  QString Path() const { return PathOf(path); }
+  // Where the settings of a constructor's `settingsFile` lie.
+  static QString PathOf(const QString &settingsFile);
 
  private:
   void CheckReadable() const;
   QString FullKey(const QString &section, const QString &key) const;
   void TakeIn();
 
-  QString path_;
-  std::unique_ptr<QSettings> file_;
-  QHash<QString, QString> values_;  // of the whole file, by full key
+  QString path;
+  std::unique_ptr<QSettings> file;
+  QHash<QString, QString> values;  // of the whole file, by full key
 };
 
-/// Settings that live as long as the object, for tests.
+// Settings that live as long as the object, for tests.
 class MemoryUserSettings : public UserSettings {
  public:
   std::optional<QString> Stored(const QString &section, const QString &key) const override;
   void SetAll(const std::vector<Change> &changes) override;
 
  private:
-  QHash<QString, QString> values_;
+  QHash<QString, QString> values;
 };
 
-/// Reads through to the settings below and keeps writes to itself, so that one run can choose an ayanamsha without changing the user's.
+// Reads through to the settings below and keeps writes to itself, so that one run can choose an ayanamsha without changing the user's.
 class OverlaySettings : public UserSettings {
  public:
-  /// `below` must outlive this object.
-  explicit OverlaySettings(const UserSettings &below) : below_(below) {}
+  // `settings` must outlive this object.
+  explicit OverlaySettings(const UserSettings &settings) : below(settings) {}
 
   std::optional<QString> Stored(const QString &section, const QString &key) const override;
   void SetAll(const std::vector<Change> &changes) override;
 
  private:
-  const UserSettings &below_;
-  MemoryUserSettings above_;
+  const UserSettings &below;
+  MemoryUserSettings above;
 };

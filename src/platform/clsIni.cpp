@@ -17,10 +17,10 @@
 
 namespace {
 
-const QString kDefaultSection = QStringLiteral("Orvani");
-const QString kDefaultFile = QStringLiteral("GENDAT.INI");
+const QString DefaultSection = QStringLiteral("Orvani");
+const QString DefaultFile = QStringLiteral("GENDAT.INI");
 
-constexpr int kLongestWaitMs = 2000;
+constexpr int LongestWaitMs = 2000;
 
 bool Same(const QString &a, const QString &b) { return a.compare(b, Qt::CaseInsensitive) == 0; }
 
@@ -29,57 +29,50 @@ class IniText {
  public:
   explicit IniText(QByteArray content) {
     if (content.startsWith("\xEF\xBB\xBF")) {
-      mark_ = content.first(3);
+      mark = content.first(3);
       content.remove(0, 3);
     }
-    lineEnd_ = content.contains("\r\n") ? "\r\n" : "\n";
-    lines_ = content.split('\n');
-    for (QByteArray &line : lines_) {
-      if (line.endsWith('\r')) {
-        line.chop(1);
-      }
-    }
-    if (lines_.last().isEmpty()) {
-      lines_.removeLast();
-    }
+    lineEnd = content.contains("\r\n") ? "\r\n" : "\n";
+    lines = content.split('\n');
+    for (QByteArray &line : lines)
+      if (line.endsWith('\r')) line.chop(1);
+    if (lines.last().isEmpty()) lines.removeLast();
   }
 
   std::optional<QString> Value(const QString &section, const QString &key) const {
     const Place place = Find(section, key);
-    return place.line < 0 ? std::nullopt : std::optional<QString>(Split(lines_[place.line]).second);
+    return place.line < 0 ? std::nullopt : std::optional<QString>(Split(lines[place.line]).second);
   }
 
   void SetValue(const QString &section, const QString &key, const QString &value) {
     const Place place = Find(section, key);
     if (place.line >= 0) {
       // The key keeps the spelling and the indent that someone gave it.
-      const QByteArray &line = lines_[place.line];
-      lines_[place.line] = line.first(line.indexOf('=') + 1) + value.toUtf8();
+      const QByteArray &line = lines[place.line];
+      lines[place.line] = line.first(line.indexOf('=') + 1) + value.toUtf8();
       return;
     }
     int at = place.afterSection;
     if (at < 0) {
-      if (!lines_.isEmpty()) {
-        lines_.append(QByteArray());
-      }
-      lines_.append('[' + section.toUtf8() + ']');
-      at = static_cast<int>(lines_.size());
+      if (!lines.isEmpty()) lines.append(QByteArray());
+      lines.append('[' + section.toUtf8() + ']');
+      at = static_cast<int>(lines.size());
     }
-    lines_.insert(at, key.toUtf8() + '=' + value.toUtf8());
+    lines.insert(at, key.toUtf8() + '=' + value.toUtf8());
   }
 
   // Whether a line of it is a section, an entry or a remark, or it is empty.
   bool IsConfiguration() const {
-    const bool isEmpty = std::all_of(lines_.begin(), lines_.end(), [](const QByteArray &line) { return line.trimmed().isEmpty(); });
-    const bool isText = std::none_of(lines_.begin(), lines_.end(), [](const QByteArray &line) { return line.contains('\0'); });
-    return isEmpty || (isText && std::any_of(lines_.begin(), lines_.end(), [](const QByteArray &line) {
+    const bool isEmpty = std::all_of(lines.begin(), lines.end(), [](const QByteArray &line) { return line.trimmed().isEmpty(); });
+    const bool isText = std::none_of(lines.begin(), lines.end(), [](const QByteArray &line) { return line.contains('\0'); });
+    return isEmpty || (isText && std::any_of(lines.begin(), lines.end(), [](const QByteArray &line) {
                          const QByteArray start = line.trimmed();
                          return start.startsWith(';') || start.startsWith('#') || (start.startsWith('[') && start.contains(']')) ||
                                 !Split(line).first.isEmpty();
                        }));
   }
 
-  QByteArray Content() const { return mark_ + lines_.join(lineEnd_) + lineEnd_; }
+  QByteArray Content() const { return mark + lines.join(lineEnd) + lineEnd; }
 
  private:
   struct Place {
@@ -91,9 +84,7 @@ class IniText {
   static std::pair<QString, QString> Split(const QByteArray &line) {
     const auto equals = line.indexOf('=');
     const QByteArray start = line.trimmed();
-    if (equals < 0 || start.startsWith(';') || start.startsWith('#') || start.startsWith('[')) {
-      return {};
-    }
+    if (equals < 0 || start.startsWith(';') || start.startsWith('#') || start.startsWith('[')) return {};
     return {QString::fromUtf8(line.first(equals)).trimmed(), QString::fromUtf8(line.sliced(equals + 1)).trimmed()};
   }
 
@@ -101,32 +92,30 @@ class IniText {
     Place place;
     bool inside = false;
     bool isFirst = true;
-    for (int i = 0; i < lines_.size(); ++i) {
-      const QByteArray line = lines_[i].trimmed();
+    for (int i = 0; i < lines.size(); ++i) {
+      const QByteArray line = lines[i].trimmed();
       if (line.startsWith('[') && line.contains(']')) {
         isFirst = isFirst && place.afterSection < 0;
         inside = Same(QString::fromUtf8(line.sliced(1, line.indexOf(']') - 1)).trimmed(), section);
-      } else if (inside && Same(Split(lines_[i]).first, key)) {
+      } else if (inside && Same(Split(lines[i]).first, key)) {
         place.line = i;
         return place;
       }
-      if (inside && isFirst && !line.isEmpty()) {
-        place.afterSection = i + 1;
-      }
+      if (inside && isFirst && !line.isEmpty()) place.afterSection = i + 1;
     }
     return place;
   }
 
-  QByteArray mark_;
-  QByteArray lineEnd_;
-  QByteArrayList lines_;
+  QByteArray mark;
+  QByteArray lineEnd;
+  QByteArrayList lines;
 };
 
 }  // namespace
 
 QString clsIni::FilePath(const QString &file) const {
-  const QString name = file.isEmpty() ? kDefaultFile : file;
-  return QDir::isAbsolutePath(name) ? name : paths_.Ephe(QStringLiteral("INIFILES/") + name);
+  const QString name = file.isEmpty() ? DefaultFile : file;
+  return QDir::isAbsolutePath(name) ? name : paths.Ephe(QStringLiteral("INIFILES/") + name);
 }
 
 QString clsIni::GetIniString(const QString &key, const QString &defaultValue, const QString &section, const QString &file) const {
@@ -136,11 +125,10 @@ QString clsIni::GetIniString(const QString &key, const QString &defaultValue, co
   std::optional<QString> value;
   try {
     const IniText text(QFileInfo::exists(path) ? ReadWholeFile(path) : QByteArray());
-    if (text.IsConfiguration()) {
-      value = text.Value(section.isEmpty() ? kDefaultSection : section, key.trimmed());
-    } else {
+    if (text.IsConfiguration())
+      value = text.Value(section.isEmpty() ? DefaultSection : section, key.trimmed());
+    else
       fault = tr("The configuration file \"%1\" is damaged, so the usual choices hold. Please mend it or move it away.");
-    }
   } catch (const StoreError &) {
     fault = QFileInfo(path).isDir() ? tr("There is a folder at \"%1\" where the configuration file should be, so the usual choices hold. "
                                          "Please move it away.")
@@ -153,17 +141,16 @@ QString clsIni::GetIniString(const QString &key, const QString &defaultValue, co
     told.insert(path);
     Notices::Show({Notice::Kind::Warning, QString(), fault.arg(QDir::toNativeSeparators(path))});
   }
-  return value.value_or(defaultValue).left(kLongestValue);
+  return value.value_or(defaultValue).left(LongestValue);
 }
 
 void clsIni::WriteIniString(const QString &key, const QString &value, const QString &section, const QString &file) const {
-  const QString name = section.isEmpty() ? kDefaultSection : section;
+  const QString name = section.isEmpty() ? DefaultSection : section;
   // Such a key could be written and never be found again.
   const QString first = key.trimmed().left(1);
   if (first.isEmpty() || QStringLiteral(";#[").contains(first) || key.contains(u'=') || key.contains(u'\n') || name.contains(u']') ||
-      name.contains(u'\n')) {
+      name.contains(u'\n'))
     throw UsageError(tr("\"%1\" in section \"%2\" cannot name an entry of the configuration file.").arg(key, name));
-  }
   QString line = value;
   line.replace(QStringLiteral("\r\n"), QStringLiteral(" ")).replace(u'\n', u' ').replace(u'\r', u' ');
 
@@ -171,20 +158,16 @@ void clsIni::WriteIniString(const QString &key, const QString &value, const QStr
   QDir().mkpath(QFileInfo(path).path());
   // Another window writes its own lines: what it wrote since is read first, and nobody writes in between.
   QLockFile oneAtATime(path + QStringLiteral(".lock"));
-  if (!oneAtATime.tryLock(kLongestWaitMs) && oneAtATime.error() == QLockFile::LockFailedError) {
+  if (!oneAtATime.tryLock(LongestWaitMs) && oneAtATime.error() == QLockFile::LockFailedError) {
     throw StoreError(tr("The configuration file \"%1\" is in use by another program. Please close that program and try again.")
                          .arg(QDir::toNativeSeparators(path)),
                      StoreError::Kind::Locked);
   }
   IniText text(QFileInfo(path).isFile() ? ReadWholeFile(path) : QByteArray());
   const bool isDamaged = !text.IsConfiguration();
-  if (isDamaged) {
-    text = IniText(QByteArray());
-  }
+  if (isDamaged) text = IniText(QByteArray());
   // Nothing to change, and so no reason to ask for a folder that can be written.
-  if (!isDamaged && text.Value(name.trimmed(), key.trimmed()) == line.trimmed()) {
-    return;
-  }
+  if (!isDamaged && text.Value(name.trimmed(), key.trimmed()) == line.trimmed()) return;
   text.SetValue(name.trimmed(), key.trimmed(), line);
   if (!isDamaged) {
     WriteWholeFile(path, text.Content());

@@ -17,7 +17,7 @@ QStringList Values(const clsIni &ini) {
   QStringList values;
   for (const char *key : Keys) values << ini.GetIniString(QLatin1String(key), Missing);
   for (const char *number : {"1", "2", "3"}) values << ini.GetIniString(QLatin1String(number), Missing, QStringLiteral("Messages"));
-  for (const QString &value : values) Require(value.size() <= clsIni::kLongestValue, "no value is too long");
+  for (const QString &value : values) Require(value.size() <= clsIni::LongestValue, "no value is too long");
   return values;
 }
 

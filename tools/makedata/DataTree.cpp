@@ -23,17 +23,17 @@ namespace {
 using Column = TableSource::Column;
 using Kind = TableSource::Column::Kind;
 
-/// Raised when a store is made otherwise from the same sources, so that present trees are remade.
-constexpr char kDataVersion[] = "2";
+// Raised when a store is made otherwise from the same sources, so that present trees are remade.
+constexpr char DataVersion[] = "2";
 
-constexpr char kGendatStart[] =
+constexpr char GendatStart[] =
     "; Settings of the program. Lines that begin with a semicolon are comments.\n"
     "[Orvani]\n";
 
-/// Files that only have to be there.
-constexpr const char *kPresenceFiles[] = {"CONYEAR.DAT", "SADESAT.Dat", "SCGRAHA.DAT", "SCRASI.DAT", "SCYONI.DAT"};
+// Files that only have to be there.
+constexpr const char *PresenceFiles[] = {"CONYEAR.DAT", "SADESAT.Dat", "SCGRAHA.DAT", "SCRASI.DAT", "SCYONI.DAT"};
 
-const std::vector<Column> kLanguageColumns{
+const std::vector<Column> LanguageColumns{
     {"Name"},
     {"Directory"},
     {"HeaderSize", Kind::Whole, 6, 72},
@@ -48,7 +48,7 @@ const std::vector<Column> kLanguageColumns{
     {"TextHeadSize", Kind::Whole, 6, 72},
 };
 
-const std::vector<Column> kPersonColumns{
+const std::vector<Column> PersonColumns{
     {"Name"},
     {"Sex", Kind::Whole, 1, 2},
     {"Day", Kind::Whole, 1, 31},
@@ -71,7 +71,7 @@ const std::vector<Column> kPersonColumns{
     {"Tcorrinde", Kind::Whole, 0, 99},
 };
 
-const std::vector<Column> kResidenceColumns{
+const std::vector<Column> ResidenceColumns{
     {"Name"},
     {"City"},
     {"Country"},
@@ -86,9 +86,9 @@ const std::vector<Column> kResidenceColumns{
 
 // `Since` is the version of the lists that first held a row: a store that knows an older version gets only what is newer, so that
 // a place that the user deleted does not come back.
-const std::vector<Column> kCountryColumns{{"Name"}, {"GMTDIF", Kind::ZoneTime}, {"Since", Kind::Whole, 0, 9999}};
+const std::vector<Column> CountryColumns{{"Name"}, {"GMTDIF", Kind::ZoneTime}, {"Since", Kind::Whole, 0, 9999}};
 
-const std::vector<Column> kCityColumns{
+const std::vector<Column> CityColumns{
     {"City"},
     {"Country"},
     {"Lat", Kind::DegMin, 0, 90},
@@ -103,7 +103,7 @@ const std::vector<Column> kCityColumns{
     {"Since", Kind::Whole, 0, 9999},
 };
 
-/// One language: its row of the list and its words.
+// One language: its row of the list and its words.
 struct Language {
   QVariantList row;
   QString directory;
@@ -114,7 +114,7 @@ struct Language {
 
 QString HashOf(const QStringList &paths) {
   QCryptographicHash hash(QCryptographicHash::Sha256);
-  hash.addData(QByteArray(kDataVersion));
+  hash.addData(QByteArray(DataVersion));
   for (const QString &path : paths) {
     const QByteArray content = FileWriter::Read(path);
     hash.addData(QFileInfo(path).fileName().toUtf8() + '\n' + QByteArray::number(content.size()) + '\n' + content);
@@ -122,7 +122,7 @@ QString HashOf(const QStringList &paths) {
   return QString::fromLatin1(hash.result().toHex());
 }
 
-/// The text files of a folder in a fixed order, so that one set of sources makes one store on every machine.
+// The text files of a folder in a fixed order, so that one set of sources makes one store on every machine.
 QStringList TextFilesIn(const QString &folder) {
   QStringList names = QDir(folder).entryList({"*.txt"}, QDir::Files);
   std::sort(names.begin(), names.end());
@@ -130,7 +130,7 @@ QStringList TextFilesIn(const QString &folder) {
   return names;
 }
 
-/// Every file below a folder, in a fixed order.
+// Every file below a folder, in a fixed order.
 QStringList AllFilesIn(const QString &folder) {
   QStringList paths;
   QDirIterator files(folder, QDir::Files, QDirIterator::Subdirectories);
@@ -150,7 +150,7 @@ Language ReadLanguage(const QString &sourceDir, const QVariantList &row) {
   return language;
 }
 
-/// The SQL type of a column; names are found without regard to case.
+// The SQL type of a column; names are found without regard to case.
 QString Declaration(const Column &column) {
   static const QStringList caseless{"Name", "City", "Country", "Directory"};
   const bool isNumber = column.kind == Kind::Whole || column.kind == Kind::Flag;
@@ -177,15 +177,14 @@ int NewestVersion(const TableSource &source) {
 void MakeTexts(StoreFile::Maker &maker, const TextSource &texts) {
   for (const QString &table : TextSource::Tables()) {
     maker.Run("CREATE TABLE " + table + " (Head TEXT COLLATE NOCASE, Category TEXT COLLATE NOCASE, Val TEXT)");
-    for (const TextSource::Row &row : texts.Rows()) {
+    for (const TextSource::Row &row : texts.Rows())
       if (row.table == table) maker.Insert(table, {"Head", "Category", "Val"}, {row.head, row.category, row.val});
-    }
     maker.Run("CREATE INDEX " + table + "HeadCategory ON " + table + " (Head, Category)");
   }
 }
 
 void MakeLanguageList(StoreFile::Maker &maker, const std::vector<Language> &languages) {
-  std::vector<Column> columns = kLanguageColumns;
+  std::vector<Column> columns = LanguageColumns;
   columns.push_back({"Include", Kind::Flag});
   MakeTable(maker, "Language", columns);
   QStringList names;
@@ -194,11 +193,11 @@ void MakeLanguageList(StoreFile::Maker &maker, const std::vector<Language> &lang
 }
 
 void MakePersons(StoreFile::Maker &maker, const TableSource &persons, const TableSource &cities, const TableSource &countries) {
-  MakeTable(maker, "Person", kPersonColumns);
-  const auto cityColumns = static_cast<qsizetype>(kCityColumns.size()) - 1;
-  const auto countryColumns = static_cast<qsizetype>(kCountryColumns.size()) - 1;
-  MakeTable(maker, "City", kCityColumns, cityColumns);
-  MakeTable(maker, "Country", kCountryColumns, countryColumns);
+  MakeTable(maker, "Person", PersonColumns);
+  const auto cityColumns = static_cast<qsizetype>(CityColumns.size()) - 1;
+  const auto countryColumns = static_cast<qsizetype>(CountryColumns.size()) - 1;
+  MakeTable(maker, "City", CityColumns, cityColumns);
+  MakeTable(maker, "Country", CountryColumns, countryColumns);
   maker.Run("CREATE TABLE PlacesApplied (Version INTEGER)");
   FillTable(maker, "Person", persons);
   FillTable(maker, "City", cities, cityColumns);
@@ -211,17 +210,17 @@ void MakePersons(StoreFile::Maker &maker, const TableSource &persons, const Tabl
   maker.Run("CREATE VIEW qryPersonName AS SELECT * FROM Person ORDER BY Name");
 }
 
-/// The shipped places by themselves, from which the program adds what a present store of persons lacks.
+// The shipped places by themselves, from which the program adds what a present store of persons lacks.
 void MakePlaces(StoreFile::Maker &maker, const TableSource &cities, const TableSource &countries) {
-  MakeTable(maker, "City", kCityColumns);
-  MakeTable(maker, "Country", kCountryColumns);
+  MakeTable(maker, "City", CityColumns);
+  MakeTable(maker, "Country", CountryColumns);
   maker.Run("CREATE TABLE PlacesVersion (Version INTEGER)");
   FillTable(maker, "City", cities);
   FillTable(maker, "Country", countries);
   maker.Insert("PlacesVersion", {"Version"}, {std::max(NewestVersion(cities), NewestVersion(countries))});
 }
 
-/// A city is saved only under a country of the list, so the first ones must not break that rule.
+// A city is saved only under a country of the list, so the first ones must not break that rule.
 void CheckCountries(const QString &citiesPath, const TableSource &cities, const TableSource &countries) {
   QSet<QString> listed;
   for (const QVariantList &country : countries.Rows()) listed.insert(country[0].toString());
@@ -243,11 +242,11 @@ void DataTree::Make(const QString &sourceDir, const QString &epheDir, const QStr
   const QString citiesPath = common + "places.tsv";
 
   // Everything is read before anything is written: a fault in a source leaves the present tree as it is.
-  const TableSource languageList(languagesPath, kLanguageColumns);
-  const TableSource persons(personsPath, kPersonColumns);
-  const TableSource residences(residencesPath, kResidenceColumns);
-  const TableSource countries(countriesPath, kCountryColumns);
-  const TableSource cities(citiesPath, kCityColumns);
+  const TableSource languageList(languagesPath, LanguageColumns);
+  const TableSource persons(personsPath, PersonColumns);
+  const TableSource residences(residencesPath, ResidenceColumns);
+  const TableSource countries(countriesPath, CountryColumns);
+  const TableSource cities(citiesPath, CityColumns);
   CheckCountries(citiesPath, cities, countries);
   std::vector<Language> languages;
   for (const QVariantList &row : languageList.Rows()) languages.push_back(ReadLanguage(sourceDir, row));
@@ -287,15 +286,15 @@ void DataTree::Make(const QString &sourceDir, const QString &epheDir, const QStr
   const QString residenceHash = HashOf({residencesPath});
   if (!FileWriter::ExistsInAnyCase(residenceStore))
     StoreFile::Make(residenceStore, residenceHash, [&](StoreFile::Maker &maker) {
-      MakeTable(maker, "PERSON", kResidenceColumns);
+      MakeTable(maker, "PERSON", ResidenceColumns);
       FillTable(maker, "PERSON", residences);
       maker.Run("CREATE INDEX PersonName ON PERSON (Name)");
     });
 
   const QString configuration = epheDir + "/INIFILES/GENDAT.INI";
-  if (!FileWriter::ExistsInAnyCase(configuration)) FileWriter::Write(configuration, kGendatStart);
+  if (!FileWriter::ExistsInAnyCase(configuration)) FileWriter::Write(configuration, GendatStart);
 
-  for (const char *name : kPresenceFiles)
+  for (const char *name : PresenceFiles)
     FileWriter::Write(epheDir + "/COMMON/" + name, "This file only has to be present; nothing is read from it.\n");
   FileWriter::Write(epheDir + "/COMMON/WAIT.AVI", WaitAnimation::Avi());
 

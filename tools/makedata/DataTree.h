@@ -4,13 +4,13 @@
 
 #include <QString>
 
-/// The EPHE tree made from the sources under data/.
-///
-/// Texts, the list of languages and the presence files are the program's and follow the sources. Persons, places, residences and
-/// the configuration file are the user's: they are made once, where they are missing, and never touched again.
+// The EPHE tree made from the sources under data/.
+//
+// Texts, the list of languages and the presence files are the program's and follow the sources. Persons, places, residences and
+// the configuration file are the user's: they are made once, where they are missing, and never touched again.
 class DataTree {
  public:
-  /// @throws SourceError for the first fault of the sources, before anything is written, or for a file that cannot be written
-  /// `version` is that of the program, for the tree's mark.
+  // version: that of the program, for the tree's mark.
+  // Throws SourceError for the first fault of the sources, before anything is written, or for a file that cannot be written.
   static void Make(const QString &sourceDir, const QString &epheDir, const QString &version);
 };

@@ -6,17 +6,17 @@
 
 #include <exception>
 
-/// A source that cannot be turned into data, or a file that cannot be read or written.
+// A source that cannot be turned into data, or a file that cannot be read or written.
 class SourceError : public std::exception {
  public:
-  /// @param line counted from 1; 0 when the whole file is meant
+  // line: counted from 1; 0 when the whole file is meant.
   SourceError(const QString &file, int line, const QString &message)
-      : sentence_((line > 0 ? QStringLiteral("%1:%2: ").arg(file).arg(line) : file + QStringLiteral(": ")) + message),
-        bytes_(sentence_.toUtf8()) {}
+      : sentence((line > 0 ? QStringLiteral("%1:%2: ").arg(file).arg(line) : file + QStringLiteral(": ")) + message),
+        bytes(sentence.toUtf8()) {}
 
-  const char *what() const noexcept override { return bytes_.constData(); }
+  const char *what() const noexcept override { return bytes.constData(); }
 
  private:
-  QString sentence_;
-  QByteArray bytes_;
+  QString sentence;
+  QByteArray bytes;
 };

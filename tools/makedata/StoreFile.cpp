@@ -15,14 +15,14 @@
 
 namespace {
 
-/// Marks every store of the program ("ORVA"), so that a file of another program is not taken for one.
-constexpr int kApplicationId = 0x4F525641;
-constexpr int kStoreVersion = 1;
+// Marks every store of the program ("ORVA"), so that a file of another program is not taken for one.
+constexpr int ApplicationId = 0x4F525641;
+constexpr int StoreVersion = 1;
 
-/// A connection that is closed and forgotten when it goes; Qt wants the handle gone before the name.
+// A connection that is closed and forgotten when it goes; Qt wants the handle gone before the name.
 class Connection {
  public:
-  Connection(const QString &path, const QString &options) : path_(path) {
+  Connection(const QString &storePath, const QString &options) : path(storePath) {
     QSqlDatabase handle = QSqlDatabase::addDatabase("QSQLITE", path);
     handle.setDatabaseName(path);
     handle.setConnectOptions(options);
@@ -36,41 +36,41 @@ class Connection {
   Connection(const Connection &) = delete;
   Connection &operator=(const Connection &) = delete;
   ~Connection() {
-    QSqlDatabase::database(path_, false).close();
-    QSqlDatabase::removeDatabase(path_);
+    QSqlDatabase::database(path, false).close();
+    QSqlDatabase::removeDatabase(path);
   }
-  QSqlDatabase Handle() const { return QSqlDatabase::database(path_, false); }
+  QSqlDatabase Handle() const { return QSqlDatabase::database(path, false); }
 
  private:
-  QString path_;
+  QString path;
 };
 
 class SqliteMaker final : public StoreFile::Maker {
  public:
-  SqliteMaker(QString path, const QSqlDatabase &handle) : path_(std::move(path)), handle_(handle) {}
+  SqliteMaker(QString storePath, const QSqlDatabase &openHandle) : path(std::move(storePath)), handle(openHandle) {}
 
   void Run(const QString &sql) override {
-    QSqlQuery query(handle_);
-    if (!query.exec(sql)) throw SourceError(path_, 0, query.lastError().text() + " in: " + sql);
+    QSqlQuery query(handle);
+    if (!query.exec(sql)) throw SourceError(path, 0, query.lastError().text() + " in: " + sql);
   }
 
-  void Insert(const QString &table, const QStringList &columns, const QVariantList &values) override {
-    if (table != table_) {
+  void Insert(const QString &intoTable, const QStringList &columns, const QVariantList &values) override {
+    if (intoTable != table) {
       QStringList marks;
       for (int i = 0; i < columns.size(); ++i) marks << "?";
-      insert_.emplace(handle_);
-      insert_->prepare("INSERT INTO " + table + " (" + columns.join(", ") + ") VALUES (" + marks.join(", ") + ")");
-      table_ = table;
+      insert.emplace(handle);
+      insert->prepare("INSERT INTO " + intoTable + " (" + columns.join(", ") + ") VALUES (" + marks.join(", ") + ")");
+      table = intoTable;
     }
-    for (int i = 0; i < values.size(); ++i) insert_->bindValue(i, values[i]);
-    if (!insert_->exec()) throw SourceError(path_, 0, insert_->lastError().text() + " in table " + table);
+    for (int i = 0; i < values.size(); ++i) insert->bindValue(i, values[i]);
+    if (!insert->exec()) throw SourceError(path, 0, insert->lastError().text() + " in table " + intoTable);
   }
 
  private:
-  QString path_;
-  QSqlDatabase handle_;
-  QString table_;
-  std::optional<QSqlQuery> insert_;
+  QString path;
+  QSqlDatabase handle;
+  QString table;
+  std::optional<QSqlQuery> insert;
 };
 
 }  // namespace
@@ -84,8 +84,8 @@ void StoreFile::Make(const QString &path, const QString &sourceHash, const std::
     // The file is thrown away if anything fails, so a journal would guard nothing.
     maker.Run("PRAGMA journal_mode = OFF");
     maker.Run("PRAGMA synchronous = OFF");
-    maker.Run(QStringLiteral("PRAGMA application_id = %1").arg(kApplicationId));
-    maker.Run(QStringLiteral("PRAGMA user_version = %1").arg(kStoreVersion));
+    maker.Run(QStringLiteral("PRAGMA application_id = %1").arg(ApplicationId));
+    maker.Run(QStringLiteral("PRAGMA user_version = %1").arg(StoreVersion));
     maker.Run("BEGIN");
     fill(maker);
     maker.Run("CREATE TABLE Origin (Hash TEXT)");

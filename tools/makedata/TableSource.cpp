@@ -11,7 +11,7 @@ namespace {
 
 using Column = TableSource::Column;
 
-/// The value of a cell, or an invalid one when the text does not fit the column.
+// The value of a cell, or an invalid one when the text does not fit the column.
 QVariant Value(const Column &column, const QString &text) {
   static const QRegularExpression degMin("^(\\d{3})([0-5]\\d)$");
   static const QRegularExpression zoneTime("^[+-]?(\\d{1,2})\\.([0-5]\\d)$");
@@ -44,29 +44,29 @@ QVariant Value(const Column &column, const QString &text) {
 }  // namespace
 
 TableSource::TableSource(const QString &path, const std::vector<Column> &columns) {
-  for (const Column &column : columns) columnNames_ << column.name;
+  for (const Column &column : columns) columnNames << column.name;
 
-  const QStringList lines = FileWriter::ReadLines(path);
+  const QStringList fileLines = FileWriter::ReadLines(path);
   bool headingSeen = false;
-  for (int i = 0; i < lines.size(); ++i) {
-    if (lines[i].trimmed().isEmpty() || lines[i].startsWith(QLatin1Char('#'))) continue;
-    QStringList cells = lines[i].split(QLatin1Char('\t'));
+  for (int i = 0; i < fileLines.size(); ++i) {
+    if (fileLines[i].trimmed().isEmpty() || fileLines[i].startsWith(QLatin1Char('#'))) continue;
+    QStringList cells = fileLines[i].split(QLatin1Char('\t'));
     for (QString &cell : cells) cell = cell.trimmed();
     if (!headingSeen) {
-      if (cells != columnNames_) throw SourceError(path, i + 1, "the heading must read: " + columnNames_.join(' '));
+      if (cells != columnNames) throw SourceError(path, i + 1, "the heading must read: " + columnNames.join(' '));
       headingSeen = true;
       continue;
     }
-    if (cells.size() != columnNames_.size())
-      throw SourceError(path, i + 1, QString("%1 cells stand under %2 columns").arg(cells.size()).arg(columnNames_.size()));
+    if (cells.size() != columnNames.size())
+      throw SourceError(path, i + 1, QString("%1 cells stand under %2 columns").arg(cells.size()).arg(columnNames.size()));
     QVariantList row;
     for (std::size_t c = 0; c < columns.size(); ++c) {
       const QString &cell = cells[static_cast<int>(c)];
       row << Value(columns[c], cell);
       if (!row.last().isValid()) throw SourceError(path, i + 1, "'" + cell + "' does not fit column " + columns[c].name);
     }
-    rows_.push_back(row);
-    lines_.push_back(i + 1);
+    rows.push_back(row);
+    lines.push_back(i + 1);
   }
   if (!headingSeen) throw SourceError(path, 0, "the heading line is missing");
 }

@@ -7,7 +7,7 @@
 
 namespace {
 
-/// What follows a word of command such as "@table", trimmed; a null text when the line holds another word.
+// What follows a word of command such as "@table", trimmed; a null text when the line holds another word.
 QString After(const QString &line, const QString &command) {
   if (line == command) return QStringLiteral("");
   return line.startsWith(command + QLatin1Char(' ')) ? line.mid(command.size()).trimmed() : QString();
@@ -75,8 +75,8 @@ void TextSource::AddRow(const QString &file, int line, const QString &table, con
   if (table.isEmpty()) throw SourceError(file, line, "no @table line stands before this row");
   // Heads and categories are found without regard to case, so two that differ in case alone would be one head given twice.
   const QString place = (table + QChar(1) + category + QChar(1) + head).toLower();
-  if (const auto first = places_.constFind(place); first != places_.constEnd())
+  if (const auto first = places.constFind(place); first != places.constEnd())
     throw SourceError(file, line, "head '" + head + "' of category '" + category + "' in " + table + " was given at " + *first);
-  places_.insert(place, QStringLiteral("%1:%2").arg(file).arg(line));
-  rows_.push_back({table, head, category, val});
+  places.insert(place, QStringLiteral("%1:%2").arg(file).arg(line));
+  rows.push_back({table, head, category, val});
 }

@@ -8,10 +8,10 @@
 
 namespace {
 
-constexpr quint32 kWidth = 4;
-constexpr quint32 kHeight = 4;
-constexpr quint32 kFrameBytes = kWidth * kHeight * 3;
-constexpr quint32 kMicrosecondsPerFrame = 100000;
+constexpr quint32 Width = 4;
+constexpr quint32 Height = 4;
+constexpr quint32 FrameBytes = Width * Height * 3;
+constexpr quint32 MicrosecondsPerFrame = 100000;
 
 QByteArray Words(std::initializer_list<quint32> words) {
   QByteArray bytes;
@@ -34,13 +34,13 @@ QByteArray List(const char *id, const QByteArray &content) { return Chunk("LIST"
 QByteArray WaitAnimation::Avi() {
   // Main header: rate, bytes a second, padding, flags, frames, first frame, streams, buffer, width, height, four reserved words.
   const QByteArray mainHeader =
-      Chunk("avih", Words({kMicrosecondsPerFrame, kFrameBytes * 10, 0, 0, 1, 0, 1, kFrameBytes, kWidth, kHeight, 0, 0, 0, 0}));
+      Chunk("avih", Words({MicrosecondsPerFrame, FrameBytes * 10, 0, 0, 1, 0, 1, FrameBytes, Width, Height, 0, 0, 0, 0}));
   // Stream header: flags, priority and language, initial frames, scale, rate, start, length, buffer, quality, sample size, frame.
   const QByteArray streamHeader =
-      Chunk("strh", QByteArray("vidsDIB ", 8) + Words({0, 0, 0, 1, 10, 0, 1, kFrameBytes, 0xFFFFFFFFU, 0, 0, kWidth | kHeight << 16}));
+      Chunk("strh", QByteArray("vidsDIB ", 8) + Words({0, 0, 0, 1, 10, 0, 1, FrameBytes, 0xFFFFFFFFU, 0, 0, Width | Height << 16}));
   // Bitmap header: size, width, height, one plane of 24 bits, no compression, bytes, then four words without meaning here.
-  const QByteArray streamFormat = Chunk("strf", Words({40, kWidth, kHeight, 1U | 24U << 16, 0, kFrameBytes, 0, 0, 0, 0}));
+  const QByteArray streamFormat = Chunk("strf", Words({40, Width, Height, 1U | 24U << 16, 0, FrameBytes, 0, 0, 0, 0}));
   const QByteArray headers = List("hdrl", mainHeader + List("strl", streamHeader + streamFormat));
-  const QByteArray frames = List("movi", Chunk("00db", QByteArray(kFrameBytes, '\xF7')));
+  const QByteArray frames = List("movi", Chunk("00db", QByteArray(FrameBytes, '\xF7')));
   return Chunk("RIFF", QByteArray("AVI ", 4) + headers + frames);
 }

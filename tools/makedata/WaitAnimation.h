@@ -4,9 +4,9 @@
 
 #include <QByteArray>
 
-/// The animation of the progress screen.
+// The animation of the progress screen.
 class WaitAnimation {
  public:
-  /// A complete AVI file with one plain frame: a player opens it and shows nothing that moves.
+  // A complete AVI file with one plain frame: a player opens it and shows nothing that moves.
   static QByteArray Avi();
 };

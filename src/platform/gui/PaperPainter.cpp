@@ -36,8 +36,8 @@ QFont MakeFont(const PrintFont &font) {
 
 }  // namespace
 
-PaperPainter::PaperPainter(QPagedPaintDevice &device, std::function<bool()> deviceFailed)
-    : device_(device), deviceFailed_(std::move(deviceFailed)), design_(UprightPage), shown_(MakeFont(font_)), metrics_(shown_) {}
+PaperPainter::PaperPainter(QPagedPaintDevice &paintDevice, std::function<bool()> hasFailed)
+    : device(paintDevice), deviceFailed(std::move(hasFailed)), design(UprightPage), shown(MakeFont(font)), metrics(shown) {}
 
 PaperPainter::~PaperPainter() { End(); }
 
@@ -47,87 +47,87 @@ void PaperPainter::ThrowFailed() {
          "report as a PDF."));
 }
 
-void PaperPainter::SetFont(const PrintFont &font) {
-  if (font == font_) return;
-  font_ = font;
-  shown_ = MakeFont(font);
-  metrics_ = QFontMetricsF(shown_);
+void PaperPainter::SetFont(const PrintFont &chosen) {
+  if (chosen == font) return;
+  font = chosen;
+  shown = MakeFont(font);
+  metrics = QFontMetricsF(shown);
 }
 
-double PaperPainter::Width(const QString &text) const { return metrics_.horizontalAdvance(text); }
-double PaperPainter::LineHeight() const { return metrics_.height(); }
+double PaperPainter::Width(const QString &text) const { return metrics.horizontalAdvance(text); }
+double PaperPainter::LineHeight() const { return metrics.height(); }
 
 void PaperPainter::EnsurePage() {
-  if (painter_.isActive() && !pageDue_) return;
-  if (!painter_.isActive()) {
-    if (!painter_.begin(&device_)) ThrowFailed();
-    painter_.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform);
-  } else if (!device_.newPage()) {
+  if (painter.isActive() && !pageDue) return;
+  if (!painter.isActive()) {
+    if (!painter.begin(&device)) ThrowFailed();
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform);
+  } else if (!device.newPage()) {
     ThrowFailed();
   }
-  pageDue_ = false;
-  if (deviceFailed_ && deviceFailed_()) ThrowFailed();
-  const QSizeF paper = device_.pageLayout().fullRect(QPageLayout::Point).size() * TwipsPerPoint;
-  const double fit = std::min({1.0, (paper.width() + 1) / design_.width(), (paper.height() + 1) / design_.height()});
-  painter_.resetTransform();
-  painter_.scale(device_.logicalDpiX() / TwipsPerInch, device_.logicalDpiY() / TwipsPerInch);
+  pageDue = false;
+  if (deviceFailed && deviceFailed()) ThrowFailed();
+  const QSizeF paper = device.pageLayout().fullRect(QPageLayout::Point).size() * TwipsPerPoint;
+  const double fit = std::min({1.0, (paper.width() + 1) / design.width(), (paper.height() + 1) / design.height()});
+  painter.resetTransform();
+  painter.scale(device.logicalDpiX() / TwipsPerInch, device.logicalDpiY() / TwipsPerInch);
   if (fit < 1) {
-    painter_.translate((paper.width() - design_.width() * fit) / 2, (paper.height() - design_.height() * fit) / 2);
-    painter_.scale(fit, fit);
+    painter.translate((paper.width() - design.width() * fit) / 2, (paper.height() - design.height() * fit) / 2);
+    painter.scale(fit, fit);
   }
 }
 
 void PaperPainter::NewPage() {
   EnsurePage();  // a page that was asked for twice is an empty page
-  pageDue_ = true;
-  ++page_;
+  pageDue = true;
+  ++page;
 }
 
 void PaperPainter::End() {
-  if (painter_.isActive() && !painter_.end()) qWarning("The printer did not end its document.");
+  if (painter.isActive() && !painter.end()) qWarning("The printer did not end its document.");
 }
 
 void PaperPainter::SetPen(double penTwips, unsigned rgb) {
   EnsurePage();
-  painter_.setBrush(Qt::NoBrush);
-  painter_.setPen(QPen(QColor(QRgb(rgb)), std::max(penTwips, ThinnestPen), Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+  painter.setBrush(Qt::NoBrush);
+  painter.setPen(QPen(QColor(QRgb(rgb)), std::max(penTwips, ThinnestPen), Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
 }
 
 void PaperPainter::Text(const QPointF &topLeft, const QString &text, unsigned rgb) {
   SetPen(1, rgb);
-  painter_.setFont(shown_);
-  painter_.drawText(QPointF(topLeft.x(), topLeft.y() + metrics_.ascent()), text);
+  painter.setFont(shown);
+  painter.drawText(QPointF(topLeft.x(), topLeft.y() + metrics.ascent()), text);
 }
 
 void PaperPainter::TextIn(const QRectF &box, const QString &text, Qt::Alignment across, bool wrap, unsigned rgb) {
   SetPen(1, rgb);
-  painter_.setFont(shown_);
+  painter.setFont(shown);
   const int flags = static_cast<int>(across) | Qt::AlignTop | Qt::TextDontClip | (wrap ? Qt::TextWordWrap : Qt::TextSingleLine);
-  painter_.drawText(box, flags, text);
+  painter.drawText(box, flags, text);
 }
 
 void PaperPainter::Line(const QPointF &from, const QPointF &to, double penTwips, unsigned rgb) {
   SetPen(penTwips, rgb);
-  painter_.drawLine(from, to);
+  painter.drawLine(from, to);
 }
 
 void PaperPainter::Outline(const QRectF &box, double penTwips, unsigned rgb) {
   SetPen(penTwips, rgb);
-  painter_.drawRect(box);
+  painter.drawRect(box);
 }
 
 void PaperPainter::Fill(const QRectF &box, unsigned rgb) {
   EnsurePage();
-  painter_.fillRect(box, QColor(QRgb(rgb)));
+  painter.fillRect(box, QColor(QRgb(rgb)));
 }
 
 void PaperPainter::Ellipse(const QRectF &box, double penTwips, unsigned rgb) {
   SetPen(penTwips, rgb);
-  painter_.drawEllipse(box);
+  painter.drawEllipse(box);
 }
 
 void PaperPainter::Picture(const QImage &picture, const QRectF &box) {
   if (picture.isNull()) throw ReportError(tr("A picture of the report cannot be read. Please re-install."));
   EnsurePage();
-  painter_.drawImage(box, picture);
+  painter.drawImage(box, picture);
 }

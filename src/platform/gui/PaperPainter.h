@@ -14,26 +14,26 @@
 
 class QPagedPaintDevice;
 
-/// Draws in twips on the pages of a printer or a PDF. On paper too small for an upright A4 page everything is made smaller and
-/// set in the middle. Throws ReportError when the device refuses a page.
+// Draws in twips on the pages of a printer or a PDF. On paper too small for an upright A4 page everything is made smaller and
+// set in the middle. Throws ReportError when the device refuses a page.
 class PaperPainter {
   Q_DECLARE_TR_FUNCTIONS(PaperPainter)
 
  public:
-  /// `device` must outlive this object; `deviceFailed` is asked with each page.
-  explicit PaperPainter(QPagedPaintDevice &device, std::function<bool()> deviceFailed = {});
+  // `paintDevice` must outlive this object; `hasFailed` is asked with each page.
+  explicit PaperPainter(QPagedPaintDevice &paintDevice, std::function<bool()> hasFailed = {});
   ~PaperPainter();
   PaperPainter(const PaperPainter &) = delete;
   PaperPainter &operator=(const PaperPainter &) = delete;
 
-  /// What the pages are made for, in twips; at first either of the two usual papers, upright.
-  void SetDesign(const QSizeF &twips) { design_ = twips; }
+  // What the pages are made for, in twips; at first either of the two usual papers, upright.
+  void SetDesign(const QSizeF &twips) { design = twips; }
 
-  /// A whole A4 page.
+  // A whole A4 page.
   static constexpr QSizeF UprightA4{11880, 16820};
   static constexpr QSizeF LandscapeA4{16820, 11880};
 
-  void SetFont(const PrintFont &font);
+  void SetFont(const PrintFont &chosen);
   double Width(const QString &text) const;
   double LineHeight() const;
 
@@ -45,25 +45,25 @@ class PaperPainter {
   void Ellipse(const QRectF &box, double penTwips, unsigned rgb);
   void Picture(const QImage &picture, const QRectF &box);
 
-  int Page() const { return page_; }
-  bool PageBegun() const { return painter_.isActive() && !pageDue_; }
+  int Page() const { return page; }
+  bool PageBegun() const { return painter.isActive() && !pageDue; }
   void NewPage();
   void End();
 
-  /// Begins the page if nothing was drawn on it yet.
+  // Begins the page if nothing was drawn on it yet.
   void EnsurePage();
 
  private:
   void SetPen(double penTwips, unsigned rgb);
   [[noreturn]] static void ThrowFailed();
 
-  QPagedPaintDevice &device_;
-  std::function<bool()> deviceFailed_;
-  QPainter painter_;
-  QSizeF design_;
-  PrintFont font_;
-  QFont shown_;
-  QFontMetricsF metrics_;
-  int page_ = 1;
-  bool pageDue_ = false;
+  QPagedPaintDevice &device;
+  std::function<bool()> deviceFailed;
+  QPainter painter;
+  QSizeF design;
+  PrintFont font;
+  QFont shown;
+  QFontMetricsF metrics;
+  int page = 1;
+  bool pageDue = false;
 };

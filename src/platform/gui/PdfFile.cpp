@@ -36,11 +36,11 @@ qint64 LastNumber(const QByteArray &pdf, const QByteArray &name) {
 
 }  // namespace
 
-PdfFile::PdfFile(const QPageSize &paper) : writer_(&content_) {
-  content_.open(QIODevice::WriteOnly);
-  writer_.setPageSize(paper);
-  writer_.setPageMargins(QMarginsF());
-  writer_.setCreator(QCoreApplication::applicationName());
+PdfFile::PdfFile(const QPageSize &paper) : writer(&content) {
+  content.open(QIODevice::WriteOnly);
+  writer.setPageSize(paper);
+  writer.setPageMargins(QMarginsF());
+  writer.setCreator(QCoreApplication::applicationName());
 }
 
 QPageSize PdfFile::UsualPaper() {
@@ -78,6 +78,6 @@ void PdfFile::CheckWritable(const QString &path) {
 }
 
 void PdfFile::Store(const QString &path, const DocumentInfo &info) {
-  content_.close();
-  WriteWholeFile(path, WithInfo(content_.data(), info));
+  content.close();
+  WriteWholeFile(path, WithInfo(content.data(), info));
 }

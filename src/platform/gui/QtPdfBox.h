@@ -8,24 +8,24 @@
 #include "platform/gui/PaperPainter.h"
 #include "platform/gui/PdfFile.h"
 
-/// Writes PDF pages of A4. Texts can be searched and their fonts are in the file.
+// Writes PDF pages of A4. Texts can be searched and their fonts are in the file.
 class QtPdfBox : public PdfBox {
  public:
   QtPdfBox();
   ~QtPdfBox() override;
 
-  void SetFileName(const QString &path) override { path_ = path; }
-  void SetInfo(const DocumentInfo &info) override { info_ = info; }
-  void SetLandscape(bool landscape) override;
+  void SetFileName(const QString &fileName) override { path = fileName; }
+  void SetInfo(const DocumentInfo &documentInfo) override { info = documentInfo; }
+  void SetLandscape(bool isWide) override;
   void BeginDoc() override;
   void EndDoc() override;
   void NewPage() override;
   void Abort() override;
-  const PrintFont &Font() const override { return font_; }
-  void SetFont(const PrintFont &font) override;
-  void SetColour(unsigned rgb) override { colour_ = rgb; }
-  int CurrentX() const override { return x_; }
-  int CurrentY() const override { return y_; }
+  const PrintFont &Font() const override { return font; }
+  void SetFont(const PrintFont &chosen) override;
+  void SetColour(unsigned rgb) override { colour = rgb; }
+  int CurrentX() const override { return currentX; }
+  int CurrentY() const override { return currentY; }
   void SetCurrent(int x, int y) override;
   int TextWidth(const QString &text) override;
   int TextHeight() override;
@@ -41,13 +41,13 @@ class QtPdfBox : public PdfBox {
   PaperPainter &Paper();
   void ApplyOrientation();
 
-  QString path_;
-  DocumentInfo info_;
-  bool landscape_ = false;
-  std::unique_ptr<PdfFile> file_;
-  std::unique_ptr<PaperPainter> paper_;
-  PrintFont font_;
-  unsigned colour_ = 0;
-  int x_ = 0;
-  int y_ = 0;
+  QString path;
+  DocumentInfo info;
+  bool landscape = false;
+  std::unique_ptr<PdfFile> file;
+  std::unique_ptr<PaperPainter> paper;
+  PrintFont font;
+  unsigned colour = 0;
+  int currentX = 0;
+  int currentY = 0;
 };

@@ -17,40 +17,40 @@ QPrinter &WithoutMargins(QPrinter &printer) {
 }  // namespace
 
 QtPrinterService::QtPrinterService(QPrinter &printer)
-    : paper_(WithoutMargins(printer),
-             [&printer] { return printer.printerState() == QPrinter::Error || printer.printerState() == QPrinter::Aborted; }),
-      abort_([&printer] { printer.abort(); }) {}
+    : paper(WithoutMargins(printer),
+            [&printer] { return printer.printerState() == QPrinter::Error || printer.printerState() == QPrinter::Aborted; }),
+      abort([&printer] { printer.abort(); }) {}
 
-QtPrinterService::QtPrinterService(QPagedPaintDevice &device) : paper_(device) {}
+QtPrinterService::QtPrinterService(QPagedPaintDevice &device) : paper(device) {}
 
-void QtPrinterService::SetLandscape(bool landscape) { paper_.SetDesign(landscape ? PaperPainter::LandscapeA4 : PaperPainter::UprightA4); }
+void QtPrinterService::SetLandscape(bool landscape) { paper.SetDesign(landscape ? PaperPainter::LandscapeA4 : PaperPainter::UprightA4); }
 
 void QtPrinterService::SetCurrent(double x, double y) {
-  x_ = x;
-  y_ = y;
+  currentX = x;
+  currentY = y;
 }
 
 void QtPrinterService::Print(const QString &text) {
-  if (!text.isEmpty()) paper_.Text({x_, y_}, text, foreColor_);
-  SetCurrent(0, y_ + paper_.LineHeight());
+  if (!text.isEmpty()) paper.Text({currentX, currentY}, text, foreColor);
+  SetCurrent(0, currentY + paper.LineHeight());
 }
 
-void QtPrinterService::Line(double x1, double y1, double x2, double y2, unsigned rgb) { paper_.Line({x1, y1}, {x2, y2}, pen_, rgb); }
+void QtPrinterService::Line(double x1, double y1, double x2, double y2, unsigned rgb) { paper.Line({x1, y1}, {x2, y2}, pen, rgb); }
 
 void QtPrinterService::Box(double x1, double y1, double x2, double y2, unsigned rgb) {
-  paper_.Outline(QRectF(QPointF(x1, y1), QPointF(x2, y2)).normalized(), pen_, rgb);
+  paper.Outline(QRectF(QPointF(x1, y1), QPointF(x2, y2)).normalized(), pen, rgb);
 }
 
 void QtPrinterService::FilledBox(double x1, double y1, double x2, double y2, unsigned rgb) {
-  paper_.Fill(QRectF(QPointF(x1, y1), QPointF(x2, y2)).normalized(), rgb);
+  paper.Fill(QRectF(QPointF(x1, y1), QPointF(x2, y2)).normalized(), rgb);
 }
 
 void QtPrinterService::Circle(double x, double y, double radius, unsigned rgb) {
-  paper_.Ellipse(QRectF(x - radius, y - radius, 2 * radius, 2 * radius), pen_, rgb);
+  paper.Ellipse(QRectF(x - radius, y - radius, 2 * radius, 2 * radius), pen, rgb);
 }
 
 void QtPrinterService::Picture(const QImage &picture, double x, double y, double width, double height) {
-  paper_.Picture(picture, QRectF(x, y, width, height));
+  paper.Picture(picture, QRectF(x, y, width, height));
 }
 
 // Dots of a 600 dots printer on the sheet itself: on A4, too, a text then stands with the lines that it belongs to.
@@ -59,22 +59,22 @@ QSize QtPrinterService::PageDots() const { return {5100, 6600}; }
 void QtPrinterService::DrawTextInDots(const QRect &dots, const QString &text, int flags) {
   const double across = SheetWidth / PageDots().width(), down = SheetHeight / PageDots().height();
   const Qt::Alignment alignment = flags & Centre ? Qt::AlignHCenter : flags & Right ? Qt::AlignRight : Qt::AlignLeft;
-  paper_.TextIn(QRectF(dots.x() * across, dots.y() * down, dots.width() * across, dots.height() * down), text, alignment,
-                (flags & WordBreak) != 0, foreColor_);
+  paper.TextIn(QRectF(dots.x() * across, dots.y() * down, dots.width() * across, dots.height() * down), text, alignment,
+               (flags & WordBreak) != 0, foreColor);
 }
 
 void QtPrinterService::NewPage() {
-  paper_.NewPage();
+  paper.NewPage();
   SetCurrent(0, 0);
 }
 
 // A file needs a page to be one; a printer is sent nothing where nothing was drawn.
 void QtPrinterService::EndDoc() {
-  if (!abort_ && paper_.Page() == 1) paper_.EnsurePage();
-  paper_.End();
+  if (!abort && paper.Page() == 1) paper.EnsurePage();
+  paper.End();
 }
 
 void QtPrinterService::Abort() {
-  if (abort_) abort_();
-  paper_.End();
+  if (abort) abort();
+  paper.End();
 }

@@ -9,23 +9,23 @@
 
 class QPrinter;
 
-/// Prints on a printer, into a preview, or into a PDF.
+// Prints on a printer, into a preview, or into a PDF.
 class QtPrinterService : public PrinterService {
  public:
-  /// The device must outlive this object, and its margins are set to nothing: the reports bring their own.
+  // The device must outlive this object, and its margins are set to nothing: the reports bring their own.
   explicit QtPrinterService(QPrinter &printer);
   explicit QtPrinterService(QPagedPaintDevice &device);
 
-  /// For pages that are made wider than high.
+  // For pages that are made wider than high.
   void SetLandscape(bool landscape);
 
-  void SetFont(const PrintFont &font) override { paper_.SetFont(font); }
-  void SetForeColor(unsigned rgb) override { foreColor_ = rgb; }
-  void SetDrawWidth(int dots) override { pen_ = dots * 2.4; }
-  double TextWidth(const QString &text) override { return paper_.Width(text); }
-  double TextHeight() override { return paper_.LineHeight(); }
-  double CurrentX() const override { return x_; }
-  double CurrentY() const override { return y_; }
+  void SetFont(const PrintFont &font) override { paper.SetFont(font); }
+  void SetForeColor(unsigned rgb) override { foreColor = rgb; }
+  void SetDrawWidth(int dots) override { pen = dots * 2.4; }
+  double TextWidth(const QString &text) override { return paper.Width(text); }
+  double TextHeight() override { return paper.LineHeight(); }
+  double CurrentX() const override { return currentX; }
+  double CurrentY() const override { return currentY; }
   void SetCurrent(double x, double y) override;
   void Print(const QString &text) override;
   void Line(double x1, double y1, double x2, double y2, unsigned rgb) override;
@@ -35,16 +35,16 @@ class QtPrinterService : public PrinterService {
   void Picture(const QImage &picture, double x, double y, double width, double height) override;
   QSize PageDots() const override;
   void DrawTextInDots(const QRect &dots, const QString &text, int flags) override;
-  int Page() const override { return paper_.Page(); }
+  int Page() const override { return paper.Page(); }
   void NewPage() override;
   void EndDoc() override;
   void Abort() override;
 
  private:
-  PaperPainter paper_;
-  std::function<void()> abort_;
-  double x_ = 0;
-  double y_ = 0;
-  double pen_ = 2.4;
-  unsigned foreColor_ = 0;
+  PaperPainter paper;
+  std::function<void()> abort;
+  double currentX = 0;
+  double currentY = 0;
+  double pen = 2.4;
+  unsigned foreColor = 0;
 };
