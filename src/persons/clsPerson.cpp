@@ -228,14 +228,15 @@ double clsPerson::AddMinutes(double minutesToAdd) {
     hours = -hours;
     rest = -rest;
   }
-  hour += hours;
+  // A stored hour can lie anywhere, and one that leaves the whole numbers is told.
+  hour = Whole(double(hour) + hours);
   minutes = Whole(minutes + rest);
   if (minutes >= 60) {
-    hour += 1;
+    hour = Whole(hour + 1.0);
     minutes -= 60;
   }
   if (minutes < 0) {
-    hour -= 1;
+    hour = Whole(hour - 1.0);
     minutes += 60;
   }
   int days = 0;
