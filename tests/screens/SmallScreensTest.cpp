@@ -170,15 +170,6 @@ TEST(People, TenThousandNamesNarrowToTheOneTyped) {
   EXPECT_EQ(people.Shown(), QStringList{"Person Number 09999"});
 }
 
-TEST(People, ListsTheStoreByName) {
-  DataFolder data;
-  const auto store = Database::OpenDatabase(data.Paths().RecosPath());
-  store->Execute("INSERT INTO Person (Name) VALUES (?)", {"Aa O'Brien"});
-  PeopleScreen people;
-  people.screen.Fill(*store);
-  EXPECT_EQ(people.Shown(), QStringList({"Aa O'Brien", "Anvik Telvar"}));
-}
-
 TEST(Status, TellsWhatIsGoingOnAndCanBeCancelled) {
   frmStatus status;
   const std::tuple<void (frmStatus::*)(), const char *, const char *> works[] = {
