@@ -10,7 +10,6 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QFileInfo>
-#include <QLockFile>
 
 namespace {
 
@@ -37,13 +36,10 @@ void DataSeed::BringUpToDate(const QString &installedEphe, const AppPaths &user)
   // Of two programs that start for the first time, the second must not lay a fresh store over one that the first has begun to fill.
   const QString epheFolder = user.Ephe(QString());
   QDir().mkpath(epheFolder);
-  QLockFile oneAtATime(epheFolder + QStringLiteral("/SEED.lock"));
-  // A folder that cannot be written is told by the first copy into it.
-  if (!oneAtATime.tryLock(LongestWaitMs) && oneAtATime.error() == QLockFile::LockFailedError) {
-    throw StoreError(tr("The data folder \"%1\" is being filled by another program. Please wait until that is done and try again.")
-                         .arg(QDir::toNativeSeparators(epheFolder)),
-                     StoreError::Kind::Locked);
-  }
+  const WriteTurn turn(epheFolder + QStringLiteral("/SEED"),
+                       tr("The data folder \"%1\" is being filled by another program. Please wait until that is done and try again.")
+                           .arg(QDir::toNativeSeparators(epheFolder)),
+                       LongestWaitMs);
 
   const QByteArray installedVersion = Version(installedEphe + u'/' + VersionFile);
   const bool renew = !installedVersion.isEmpty() && installedVersion != Version(user.Ephe(VersionFile));

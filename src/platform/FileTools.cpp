@@ -4,14 +4,18 @@
 
 #include "platform/Errors.h"
 
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
+#include <QThread>
 
 #include <cstdio>
 
 namespace {
+
+constexpr int LockPollMs = 10;
 
 QString Tr(const char *text) { return QCoreApplication::translate("FileTools", text); }
 
@@ -55,6 +59,15 @@ void WriteWholeFile(const QString &path, const QByteArray &content) {
   // Flushed by itself: what a full disk refuses at the closing is not noticed by commit, which would rename an empty file into place.
   if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.flush() || !file.commit())
     ThrowNotWritten(path, file.errorString());
+}
+
+WriteTurn::WriteTurn(const QString &path, const QString &inUse, int longestWaitMs) : lock(path + QStringLiteral(".lock")) {
+  // Asked for often: left to wait by itself, the lock looks at ever longer intervals, and a busy neighbour is always there first.
+  const QDeadlineTimer end(longestWaitMs);
+  while (!lock.tryLock(0) && lock.error() == QLockFile::LockFailedError) {
+    if (end.hasExpired()) throw StoreError(inUse, StoreError::Kind::Locked);
+    QThread::msleep(LockPollMs);
+  }
 }
 
 bool IsTaken(const QString &path) {

@@ -5,13 +5,15 @@
 #include "platform/Errors.h"
 #include "platform/FileTools.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSettings>
 #include <QStandardPaths>
+#include <QTemporaryDir>
 
 #include <algorithm>
-#include <utility>
+#include <optional>
 
 namespace {
 
@@ -29,6 +31,45 @@ QString StoredSpelling(const QStringList &names, const QString &name) {
     if (stored.compare(name, Qt::CaseInsensitive) == 0) return stored;
   return name;
 }
+
+QString FullKey(QSettings &file, const QString &section, const QString &key) {
+  const QString storedSection = StoredSpelling(file.childGroups(), section);
+  file.beginGroup(storedSection);
+  const QString storedKey = StoredSpelling(file.childKeys(), key);
+  file.endGroup();
+  return storedSection + u'/' + storedKey;
+}
+
+// A text of settings for the library that knows their form, under a path of its own: the library keeps what it has read of a path and
+// notes the file's size and time only after the reading, so that it can miss what another program writes in between, and undo it.
+class SettingsCopy {
+ public:
+  // Throws StoreError when the temporary folder does not take it.
+  explicit SettingsCopy(const QByteArray &text) {
+    QFile copy(folder.filePath(QStringLiteral("orvani.conf")));
+    if (!folder.isValid() || !copy.open(QIODevice::WriteOnly) || copy.write(text) != text.size() || !copy.flush()) {
+      throw StoreError(FileUserSettings::tr("The temporary folder \"%1\" cannot be written. Please allow writing to it, and check that the "
+                                            "disk is not full.")
+                           .arg(QDir::toNativeSeparators(QDir::tempPath())),
+                       StoreError::Kind::ReadOnly);
+    }
+    file.emplace(copy.fileName(), QSettings::IniFormat);
+  }
+
+  QSettings &File() { return *file; }
+
+  // The text with the changes.
+  // Throws StoreError when the temporary folder has no room for that many bytes.
+  QByteArray Text(qint64 mostBytes) {
+    CheckRoom(file->fileName(), mostBytes);  // the library would leave an empty file on a full disk
+    file->sync();
+    return ReadWholeFile(file->fileName());
+  }
+
+ private:
+  QTemporaryDir folder;
+  std::optional<QSettings> file;
+};
 
 // Whether the file can hold settings: it is empty, or a line of it is a section, an entry or a remark.
 bool LooksLikeSettings(const QByteArray &content) {
@@ -76,13 +117,7 @@ void UserSettings::SetBoolValue(const SettingKey &key, bool value) {
   SetValue(key, value ? QStringLiteral("True") : QStringLiteral("False"));
 }
 
-FileUserSettings::FileUserSettings(const QString &settingsFile)
-    : path(settingsFile), file(std::make_unique<QSettings>(PathOf(settingsFile), QSettings::IniFormat)) {
-  CheckReadable();
-  TakeIn();
-}
-
-FileUserSettings::~FileUserSettings() = default;
+FileUserSettings::FileUserSettings(const QString &settingsFile) : path(settingsFile) { TakeIn(Content()); }
 
 QString FileUserSettings::PathOf(const QString &settingsFile) {
   return settingsFile.isEmpty()
@@ -90,48 +125,58 @@ QString FileUserSettings::PathOf(const QString &settingsFile) {
              : settingsFile;
 }
 
+void FileUserSettings::ThrowDamaged() const {
+  throw StoreError(tr("The settings file \"%1\" is damaged. Please mend it, or move it away to start with the usual settings.").arg(Path()),
+                   StoreError::Kind::Damaged);
+}
+
 // Without this a file that cannot be read would count as an empty one, and the chart of another ayanamsha would be shown unasked.
-void FileUserSettings::CheckReadable() const {
+QByteArray FileUserSettings::Content() const {
   const QFileInfo info(Path());
-  if (!info.exists()) return;
-  QFile opened(Path());
-  if (!info.isFile() || !opened.open(QIODevice::ReadOnly) || file->status() == QSettings::AccessError) {
+  if (!info.exists()) return {};
+  QFile file(Path());
+  if (!info.isFile() || !file.open(QIODevice::ReadOnly)) {
     throw StoreError(
         tr("The settings file \"%1\" cannot be read. Please allow reading it, or move it away to start with the usual settings.")
             .arg(Path()),
         info.isFile() ? StoreError::Kind::Unreadable : StoreError::Kind::NotAFile);
   }
-  if (file->status() != QSettings::NoError || !LooksLikeSettings(opened.readAll())) {
-    throw StoreError(
-        tr("The settings file \"%1\" is damaged. Please mend it, or move it away to start with the usual settings.").arg(Path()),
-        StoreError::Kind::Damaged);
+  const QByteArray content = file.readAll();
+  if (!LooksLikeSettings(content)) ThrowDamaged();
+  return content;
+}
+
+void FileUserSettings::TakeIn(const QByteArray &content) {
+  std::optional<SettingsCopy> copy;
+  std::optional<QSettings> original;
+  try {
+    copy.emplace(content);
+  } catch (const StoreError &) {
+    original.emplace(Path(), QSettings::IniFormat);  // without room nobody else writes either
   }
-}
-
-QString FileUserSettings::FullKey(const QString &section, const QString &key) const {
-  const QString storedSection = StoredSpelling(file->childGroups(), section);
-  file->beginGroup(storedSection);
-  const QString storedKey = StoredSpelling(file->childKeys(), key);
-  file->endGroup();
-  return storedSection + u'/' + storedKey;
-}
-
-void FileUserSettings::TakeIn() {
+  QSettings &file = copy ? copy->File() : *original;
+  if (file.status() != QSettings::NoError) ThrowDamaged();
   values.clear();
-  const QStringList keys = file->allKeys();
+  const QStringList keys = file.allKeys();
   for (const QString &key : keys) {
-    const QVariant value = file->value(key);
+    const QVariant value = file.value(key);
     // A comma in a hand-written value makes the reader see a list.
     values.insert(key.toLower(),
                   value.typeId() == QMetaType::QStringList ? value.toStringList().join(QStringLiteral(", ")) : value.toString());
   }
+  taken = content;
 }
 
 bool FileUserSettings::Refresh() {
-  file->sync();
-  const QHash<QString, QString> before = std::exchange(values, {});
-  TakeIn();
-  return values != before;
+  try {
+    const QByteArray content = Content();
+    if (content == taken) return false;
+    const QHash<QString, QString> before = values;
+    TakeIn(content);
+    return values != before;
+  } catch (const StoreError &) {
+    return false;  // a day on the screen keeps its ayanamsha; the next start tells the fault
+  }
 }
 
 std::optional<QString> FileUserSettings::Stored(const QString &section, const QString &key) const {
@@ -140,21 +185,21 @@ std::optional<QString> FileUserSettings::Stored(const QString &section, const QS
 }
 
 void FileUserSettings::SetAll(const std::vector<Change> &changes) {
-  qint64 room = QFileInfo(Path()).size();
-  for (const Change &change : changes) {
+  for (const Change &change : changes)
     values.insert((change.section + u'/' + change.key).toLower(), change.value);  // what cannot be kept holds for this run all the same
+  QDir().mkpath(QFileInfo(Path()).path());
+  // What another program stored since is read first, and nobody writes in between.
+  const WriteTurn turn(Path(),
+                       tr("The settings file \"%1\" is in use by another program. Please close that program and try again.").arg(Path()));
+  const QByteArray before = Content();
+  SettingsCopy copy(before);
+  if (copy.File().status() != QSettings::NoError) ThrowDamaged();
+  qint64 room = before.size();
+  for (const Change &change : changes) {
+    copy.File().setValue(FullKey(copy.File(), change.section, change.key), change.value);
     room += RoomForOneValue + change.value.size() * MostBytesOfALetter;
   }
-  CheckRoom(Path(), room);  // the library would leave an empty file on a full disk
-  file->sync();             // another program's spelling of the key is kept, and so are its values
-  for (const Change &change : changes) file->setValue(FullKey(change.section, change.key), change.value);
-  file->sync();
-  if (file->status() == QSettings::AccessError) {
-    throw StoreError(tr("The settings file \"%1\" cannot be written. Please allow writing to the file and its folder, and check that the "
-                        "disk is not full.")
-                         .arg(Path()),
-                     StoreError::Kind::ReadOnly);
-  }
+  WriteWholeFile(Path(), copy.Text(room));
 }
 
 namespace {

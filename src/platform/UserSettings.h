@@ -4,16 +4,14 @@
 
 #include "platform/SettingKeys.h"
 
+#include <QByteArray>
 #include <QCoreApplication>
 #include <QHash>
 #include <QString>
 
-#include <memory>
 #include <optional>
 #include <utility>
 #include <vector>
-
-class QSettings;
 
 // The per-user store of settings, by section and key, all values texts. Sections and keys compare without regard to case:
 // the chart style is written as "Kundstyle" in one place and read as "KundStyle" in another.
@@ -68,7 +66,6 @@ class FileUserSettings : public UserSettings {
   // settingsFile: its path; empty for orvani/orvani.conf in the user's configuration folder. One that does not exist holds no settings yet.
   // Throws StoreError when the file is there and cannot be read as settings.
   explicit FileUserSettings(const QString &settingsFile = QString());
-  ~FileUserSettings() override;
 
   std::optional<QString> Stored(const QString &section, const QString &key) const override;
   void SetAll(const std::vector<Change> &changes) override;
@@ -79,12 +76,12 @@ class FileUserSettings : public UserSettings {
   static QString PathOf(const QString &settingsFile);
 
  private:
-  void CheckReadable() const;
-  QString FullKey(const QString &section, const QString &key) const;
-  void TakeIn();
+  QByteArray Content() const;
+  [[noreturn]] void ThrowDamaged() const;
+  void TakeIn(const QByteArray &content);
 
   QString path;
-  std::unique_ptr<QSettings> file;
+  QByteArray taken;                // what the values were read from
   QHash<QString, QString> values;  // of the whole file, by full key
 };
 

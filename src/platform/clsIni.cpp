@@ -9,7 +9,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QLockFile>
 #include <QSet>
 
 #include <algorithm>
@@ -19,8 +18,6 @@ namespace {
 
 const QString DefaultSection = QStringLiteral("Orvani");
 const QString DefaultFile = QStringLiteral("GENDAT.INI");
-
-constexpr int LongestWaitMs = 2000;
 
 bool Same(const QString &a, const QString &b) { return a.compare(b, Qt::CaseInsensitive) == 0; }
 
@@ -157,12 +154,8 @@ void clsIni::WriteIniString(const QString &key, const QString &value, const QStr
   const QString path = FilePath(file);
   QDir().mkpath(QFileInfo(path).path());
   // Another window writes its own lines: what it wrote since is read first, and nobody writes in between.
-  QLockFile oneAtATime(path + QStringLiteral(".lock"));
-  if (!oneAtATime.tryLock(LongestWaitMs) && oneAtATime.error() == QLockFile::LockFailedError) {
-    throw StoreError(tr("The configuration file \"%1\" is in use by another program. Please close that program and try again.")
-                         .arg(QDir::toNativeSeparators(path)),
-                     StoreError::Kind::Locked);
-  }
+  const WriteTurn turn(path, tr("The configuration file \"%1\" is in use by another program. Please close that program and try again.")
+                                 .arg(QDir::toNativeSeparators(path)));
   IniText text(QFileInfo(path).isFile() ? ReadWholeFile(path) : QByteArray());
   const bool isDamaged = !text.IsConfiguration();
   if (isDamaged) text = IniText(QByteArray());

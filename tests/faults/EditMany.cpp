@@ -15,6 +15,7 @@
 namespace {
 
 void Edit(const AppPaths &paths, const QString &settingsFile, const QString &editor) {
+  Database::SetBusyTimeout(EditPlan::LongestWaitMs);
   const auto db = StoreKeeper::OpenUserStore(paths.RecosPath());
   PersonStore persons(db, paths.DailyPath());
   PlaceStore places(db);

@@ -9,6 +9,8 @@
 // every third is changed, every fourth is deleted.
 struct EditPlan {
   static constexpr int Rounds = 200;
+  // Without a pause between their edits, as no user works, they can keep each other waiting on a slow disk.
+  static constexpr int LongestWaitMs = 60000;
 
   static bool Changes(int n) { return n % 3 == 1; }
   static bool Deletes(int n) { return n % 4 == 3; }

@@ -176,6 +176,25 @@ TEST_F(SettingsTest, TwoWindowsKeepEachOthersSettings) {
   one.SetIntValue(SettingKeys::RahuKetuMode, 1);
   EXPECT_EQ(ReadWholeFile(path).toLower().count("rahuketumode"), 1) << "one entry in one spelling";
 
+  // As another program may write it within one tick of the disk's clock: same size, same time.
+  QByteArray changed = ReadWholeFile(path);
+  changed.replace("AyanType=3", "AyanType=7");
+  const QDateTime moment = QFileInfo(path).lastModified();
+  WriteWholeFile(path, changed);
+  QFile file(path);
+  ASSERT_TRUE(file.open(QIODevice::ReadWrite) && file.setFileTime(moment, QFileDevice::FileModificationTime));
+  file.close();
+  one.SetValue("Settings", "DoneSetup", "False");
+  EXPECT_EQ(FileUserSettings(path).IntValue(SettingKeys::AyanType), 7);
+  EXPECT_TRUE(other.Refresh());
+  EXPECT_EQ(other.IntValue(SettingKeys::AyanType), 7);
+
+  WriteWholeFile(path, "no settings any more");
+  EXPECT_FALSE(other.Refresh());
+  EXPECT_EQ(other.IntValue(SettingKeys::AyanType), 7) << "the open day keeps its ayanamsha";
+  EXPECT_EQ(Refusal([&] { other.SetIntValue(SettingKeys::AyanType, 1); }), StoreError::Kind::Damaged);
+  EXPECT_EQ(ReadWholeFile(path), "no settings any more");
+
   const clsIni ini((AppPaths(At(""))));
   const clsIni same((AppPaths(At(""))));
   ini.WriteIniString("LastPerson", "Mira");
