@@ -12,39 +12,6 @@ namespace {
 
 using Format = PersonsFile::Format;
 
-TEST_F(PersonFiles, TheSameFileBackGivesTheSameStore) {
-  const auto persons = OpenPersons();
-  PersonStore store(persons, At("Daily.dat"));
-  for (const char *name :
-       {"Asha O'Neil", "Comma, \"Quote\"", "two\nlines", "\xE0\xA4\x85\xE0\xA4\x9C", "=SUM(A1)", "\xF0\x9F\x8C\x99", "a;b\tc"})
-    store.Save(Numbered(name, static_cast<int>(strlen(name)) * 7));
-  PersonRecord homeless = Numbered("Zoya", 3);
-  homeless.residence.reset();
-  homeless.TCorrVal = "+01.00";
-  homeless.Tcorrinde = 2;
-  homeless.AMPM = 0;
-  // Beyond A to Z a name with a capital is another name, as it is for the store.
-  store.SaveAll(
-      {homeless, Numbered("Twin", 1), Numbered("Twin", 2), Numbered("\u00E9va", 3), Numbered("\u00C9va", 4), Numbered("\u00E9va", 5)});
-  const auto before = store.All();
-  const auto capital = std::find_if(before.begin(), before.end(), [](const PersonRecord &one) { return one.Name == "\u00C9va"; });
-  ASSERT_NE(capital, before.end());
-  EXPECT_EQ(*capital, Numbered("\u00C9va", 4));
-
-  for (const Format format : {Format::Csv, Format::Json}) {
-    const QByteArray file = PersonsFile::Write(before, format);
-    const PersonsFile::Contents read = PersonsFile::Read(file, format);
-    EXPECT_TRUE(read.faults.isEmpty()) << read.faults.join('\n');
-    EXPECT_EQ(read.persons, before);
-    const PersonStore::Tally again = store.SaveAll(read.persons);
-    EXPECT_EQ(again.added, 0);
-    EXPECT_EQ(store.All(), before);
-    for (const PersonRecord &person : before) store.Delete(person.Name);
-    EXPECT_EQ(store.SaveAll(read.persons).added, static_cast<int>(before.size()));
-    EXPECT_EQ(store.All(), before);
-  }
-}
-
 // All rows of a table to the letter, each value with its type.
 QStringList RowsOf(const char *path, const PersonFiles &files, const char *columns) {
   QStringList quoted;
@@ -56,9 +23,20 @@ QStringList RowsOf(const char *path, const PersonFiles &files, const char *colum
   return lines;
 }
 
-TEST_F(PersonFiles, StrangeRowsComeBackToTheLetter) {
+TEST_F(PersonFiles, EveryRowComesBackToTheLetter) {
   const auto persons = OpenPersons();
   PersonStore store(persons, At("Daily.dat"));
+  for (const char *name :
+       {"Asha O'Neil", "Comma, \"Quote\"", "two\nlines", "\xE0\xA4\x85\xE0\xA4\x9C", "=SUM(A1)", "\xF0\x9F\x8C\x99", "a;b\tc"})
+    store.Save(Numbered(name, static_cast<int>(strlen(name)) * 7));
+  PersonRecord homeless = Numbered("Zoya", 3);
+  homeless.residence.reset();
+  homeless.TCorrVal = "+01.00";
+  homeless.Tcorrinde = 2;
+  homeless.AMPM = 0;
+  // Beyond A to Z a name with a capital is another name, as it is for the store.
+  store.SaveAll({homeless, Numbered("\u00E9va", 3), Numbered("\u00C9va", 4), Numbered("\u00E9va", 5)});
+  EXPECT_EQ(store.Find("\u00C9va"), Numbered("\u00C9va", 4));
   const auto daily = Database::OpenDatabase(At("Daily.dat"));
   for (const char *name :
        {"Sexless", "Timeless", "Pole", "Leap", "Words", "  Blanks ", "", "TWIN", "Twin", "\u00c9MILE", "\u00c9mile", "Sound"}) {
