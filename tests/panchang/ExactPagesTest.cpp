@@ -3,7 +3,6 @@
 // The exact day and the month as pages, texts, JSON and calendar files.
 #include <gtest/gtest.h>
 
-#include <QFile>
 #include <QJsonArray>
 #include <QTemporaryDir>
 
@@ -16,54 +15,33 @@
 #include "analysis/MonthIcs.h"
 #include "analysis/MonthPage.h"
 #include "analysis/NowCardPage.h"
-#include "analysis/SelvaniDailyMod.h"
 #include "app/ExactOutput.h"
-#include "content/Languages.h"
-#include "platform/AppPaths.h"
 #include "platform/Errors.h"
+#include "platform/FileTools.h"
 #include "platform/Notices.h"
+#include "support/SampleDay.h"
 
 namespace {
 
-PlaceRecord Place(const char *city, const char *gmt, int latDeg, int latMT, const char *ns, int longDeg, int longMT, const char *ew) {
-  PlaceRecord place;
-  place.City = QLatin1String(city);
-  place.Country = QStringLiteral("Nowhere");
-  place.GMTDIFF = QLatin1String(gmt);
-  place.LatDeg = latDeg;
-  place.LatMT = latMT;
-  place.TextNS = QLatin1String(ns);
-  place.LongDeg = longDeg;
-  place.LongMT = longMT;
-  place.TextEW = QLatin1String(ew);
-  return place;
-}
+const PlaceRecord AgraPlace{"Agra", "Nowhere", "+05.30", 27, 9, 78, 0, "N", "E"};
 
-class ExactPages : public testing::Test {
+class ExactPages : public testing::Test, protected SampleDay {
  protected:
-  ExactPages()
-      : session(settings, {OpenLanguageDb(AppPaths(QStringLiteral(ORVANI_EPHE "/..")), QStringLiteral("ENGLISH")), nullptr, nullptr}) {}
+  ExactPages() : SampleDay(Moment(2026, 11, 21, 10)) {}
 
   const clsPlanets &Chart(const PlaceRecord &place, const QDateTime &moment) {
-    BirthRecord birth;
-    birth.Name = QStringLiteral("Anvik Telvar");
-    birth.Day = 23;
-    birth.Month = 7;
-    birth.Year = 1980;
-    birth.Hour = 10;
-    birth.place = place;
-    session.SetBirthPerson(birth);
+    session.SetBirthPerson({.Name = "Anvik Telvar", .Day = 23, .Month = 7, .Year = 1980, .Hour = 10, .place = place, .TimeCorr = {}});
     session.BuildAnalysis(moment);
     return session.TodayChart();
   }
-  const clsPlanets &Agra(int hour = 10) { return Chart(Place("Agra", "+05.30", 27, 9, "N", 78, 0, "E"), Moment(2026, 11, 21, hour)); }
-  const clsPlanets &Murmansk(int month) { return Chart(Place("Murmansk", "+03.00", 68, 58, "N", 33, 5, "E"), Moment(2025, month, 15, 12)); }
+  const clsPlanets &Agra() { return Chart(AgraPlace, Moment(2026, 11, 21, 10)); }
+  const clsPlanets &Murmansk(int month) {
+    return Chart({"Murmansk", "Nowhere", "+03.00", 68, 58, 33, 5, "N", "E"}, Moment(2025, month, 15, 12));
+  }
 
   static QDateTime Moment(int year, int month, int day, int hour) { return QDateTime(QDate(year, month, day), QTime(hour, 6), Qt::UTC); }
 
   NoticeRecorder notices;  // a word that is missing is a notice
-  MemoryUserSettings settings;
-  SelvaniDailyMod session;
 };
 
 }  // namespace
@@ -95,7 +73,7 @@ TEST_F(ExactPages, DrawTheDayFromSunriseToSunrise) {
     EXPECT_TRUE(found) << element;
   }
   // After midnight the same day goes on.
-  const ExactDayPage late = FillExactDay(Chart(Place("Agra", "+05.30", 27, 9, "N", 78, 0, "E"), Moment(2026, 11, 22, 3)));
+  const ExactDayPage late = FillExactDay(Chart(AgraPlace, Moment(2026, 11, 22, 3)));
   EXPECT_EQ(late.title, page.title);
   EXPECT_NEAR(late.now, 1219.5, 0.5);
   EXPECT_TRUE(notices.Seen().empty());
@@ -191,11 +169,8 @@ TEST_F(ExactPages, WriteCalendarFilesThatOtherProgramsRead) {
   EXPECT_EQ(QString::fromUtf8(folded.replace("\r\n ", "").trimmed()), letters);
 
   QTemporaryDir folder;
-  const QString path = folder.filePath("month.ics");
-  ExactOutput::WriteIcs(path, Agra(), QDate(2026, 11, 1));
-  QFile file(path);
-  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-  const QByteArray text = file.readAll();
+  ExactOutput::WriteIcs(folder.filePath("month.ics"), Agra(), QDate(2026, 11, 1));
+  const QByteArray text = ReadWholeFile(folder.filePath("month.ics"));
   EXPECT_TRUE(text.startsWith("BEGIN:VCALENDAR\r\nVERSION:2.0\r\n") && text.endsWith("END:VCALENDAR\r\n"));
   EXPECT_EQ(text.count("BEGIN:VEVENT"), text.count("END:VEVENT"));
   EXPECT_EQ(text.count("DTSTART;VALUE=DATE:"), 30);
@@ -210,31 +185,19 @@ TEST_F(ExactPages, WriteCalendarFilesThatOtherProgramsRead) {
 
 // A place of the list has its summer time; a difference that its zone never has is the user's own.
 TEST_F(ExactPages, ReadTheClockOfAKnownPlace) {
-  const auto persons = Database::OpenDatabase(AppPaths(QStringLiteral(ORVANI_EPHE "/..")).RecosPath(), Database::Mode::ReadOnly);
-  SelvaniDailyMod withPlaces(settings, {session.OpenStores().words, persons, nullptr});
   const auto rules = [&](const char *gmt) {
-    BirthRecord birth;
-    birth.Name = QStringLiteral("Asha");
-    birth.Day = birth.Month = 1;
-    birth.Year = 2000;
-    birth.place = Place("London", gmt, 51, 30, "N", 0, 7, "W");
-    birth.place.Country = QStringLiteral("United Kingdom");
-    withPlaces.SetBirthPerson(birth);
-    withPlaces.BuildAnalysis(Moment(2024, 6, 20, 12));
-    return ExactRulesOf(withPlaces.TodayChart());
+    return ExactRulesOf(Chart({"London", "United Kingdom", gmt, 51, 30, 0, 7, "N", "W"}, Moment(2024, 6, 20, 12)));
   };
   EXPECT_EQ(rules("+00.00").zone.Name(), "Europe/London");
   EXPECT_EQ(rules("+01.00").zone.Name(), "Europe/London");
   EXPECT_EQ(rules("+05.30").zone.Name(), "");
   // In every month, also where summer time holds half a year before and after.
-  PlaceRecord newYork = Place("New York", "-05.00", 40, 43, "N", 74, 0, "W");
-  newYork.Country = QStringLiteral("United States of America");
-  withPlaces.SetResidence(newYork);
+  session.SetResidence(PlaceRecord{"New York", "United States of America", "-05.00", 40, 43, 74, 0, "N", "W"});
   for (int month = 1; month <= 12; ++month) {
-    withPlaces.BuildAnalysis(Moment(2026, month, 9, 12));
-    EXPECT_EQ(ExactRulesOf(withPlaces.TodayChart()).zone.Name(), "America/New_York") << month;
+    session.BuildAnalysis(Moment(2026, month, 9, 12));
+    EXPECT_EQ(ExactRulesOf(session.TodayChart()).zone.Name(), "America/New_York") << month;
   }
-  withPlaces.SetResidence(std::nullopt);
+  session.SetResidence(std::nullopt);
   EXPECT_NEAR(rules("+00.00").place.longitude, -7 / 60.0, 1e-9);
 }
 
@@ -290,7 +253,7 @@ TEST_F(ExactPages, ShowExactTimesWhereTheSettingAsksForThem) {
   EXPECT_LT(FillHoraPage(session.TodayChart()).lblHoraTime[0], hora.lblHoraTime[0]) << "the limb is seen some minutes earlier";
 
   // After midnight the day goes on: its weekday, lords and periods are those of its sunrise, and times tell their date.
-  Chart(Place("Agra", "+05.30", 27, 9, "N", 78, 0, "E"), Moment(2026, 11, 22, 3));
+  Chart(AgraPlace, Moment(2026, 11, 22, 3));
   const OverviewPage late = session.FillMainPage();
   EXPECT_EQ(late.lblDayVal, "Saturday");
   EXPECT_TRUE(late.lblSunriseVal.startsWith("21 Nov 6:4")) << late.lblSunriseVal.toStdString();

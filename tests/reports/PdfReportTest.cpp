@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 Brivanta Works
 // SPDX-License-Identifier: AGPL-3.0-or-later
 // Real PDFs, read back by another program; and the screens that ask for them.
-#include <QFile>
 #include <QPushButton>
 #include <QTest>
 #include <QTreeWidget>
 
+#include "platform/FileTools.h"
 #include "platform/ReportError.h"
 #include "reports/PdfWords.h"
 #include "reports/ReportFixture.h"
@@ -13,11 +13,6 @@
 #include "reports/frmPratyan.h"
 
 namespace {
-
-QByteArray Content(const QString &path) {
-  QFile file(path);
-  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 class PdfReportTest : public ReportFixture {
  protected:
@@ -57,18 +52,15 @@ TEST_F(PdfReportTest, WordsStandOnBothPapersWhereTheyBelong) {
 
 TEST_F(PdfReportTest, AStoppedOrFailedFileLeavesTheOldOne) {
   const QString file = File("report.pdf");
-  QFile old(file);
-  ASSERT_TRUE(old.open(QIODevice::WriteOnly));
-  old.write("old");
-  old.close();
+  WriteWholeFile(file, "old");
   struct Stop : ReportProgress {
     bool Step(int done, int) override { return done < 2; }
   } stop;
   EXPECT_FALSE(Report().SavePdf(file, ReportTopics::Usual(), &stop));
-  EXPECT_EQ(Content(file), "old");
+  EXPECT_EQ(ReadFileIfAny(file), "old");
   QFile::remove(data.File("COMMON\\trishul.jpg"));
   EXPECT_THROW(Report().SavePdf(file, ReportTopics::Usual()), ReportError);
-  EXPECT_EQ(Content(file), "old");
+  EXPECT_EQ(ReadFileIfAny(file), "old");
   EXPECT_THROW(Report().SavePdf(data.Path(), ReportTopics::FromKeys({"Rashifala"})), StoreError);
   EXPECT_THROW(Report().SavePdf(QStringLiteral("/dev/full/report.pdf"), ReportTopics::FromKeys({"Rashifala"})), StoreError);
   // Nothing ticked is an empty document.
@@ -141,7 +133,7 @@ TEST_F(PdfReportTest, TopicsFollowTheirRootAndTheRootStays) {
     QFile::remove(File("saved.pdf"));
     form.show();
     form.Print();
-    EXPECT_TRUE(Content(File("saved.pdf")).startsWith("%PDF"));
+    EXPECT_TRUE(ReadFileIfAny(File("saved.pdf")).startsWith("%PDF"));
     EXPECT_FALSE(form.isVisible());
   }
   EXPECT_TRUE(told[0].startsWith("No printer is installed"));

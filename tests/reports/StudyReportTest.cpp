@@ -224,22 +224,8 @@ TEST_F(StudyReportTest, BarsAndLinesAreDrawnToMeasure) {
 }
 
 TEST_F(StudyReportTest, AChartWithManyAspectsKeepsToItsPages) {
-  BirthRecord lima;
-  lima.Name = "Lima";
-  lima.Day = 21;
-  lima.Month = 6;
-  lima.Year = 1999;
-  lima.Hour = 12;
-  lima.place = {.City = "Lima",
-                .Country = {},
-                .GMTDIFF = "-5.00",
-                .LatDeg = 12,
-                .LatMT = 10,
-                .LongDeg = 77,
-                .LongMT = 20,
-                .TextNS = "S",
-                .TextEW = "W"};
-  session.SetBirthPerson(lima);
+  const PlaceRecord lima{"Lima", {}, "-5.00", 12, 10, 77, 20, "S", "W"};
+  session.SetBirthPerson({.Name = "Lima", .Day = 21, .Month = 6, .Year = 1999, .Hour = 12, .place = lima, .TimeCorr = {}});
   session.BuildAnalysis(QDateTime(QDate(2026, 12, 21), QTime(9, 0), Qt::UTC));
   const QString file = data.Path() + "/lima.pdf";
   ASSERT_TRUE(Report().SavePdf(file, ReportTopics::FromKeys({"Aspects"}), nullptr, QPageSize(QPageSize::A4)));

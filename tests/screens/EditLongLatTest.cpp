@@ -1,54 +1,27 @@
 // SPDX-FileCopyrightText: 2026 Brivanta Works
 // SPDX-License-Identifier: AGPL-3.0-or-later
 // The screen of places, countries, calculation options and the user's details.
-#include <QAbstractButton>
 #include <QApplication>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QSignalSpy>
-#include <QTabWidget>
-#include <QTest>
 
-#include "persons/PersonFiles.h"
 #include "persons/frmEditLongLat.h"
 #include "platform/FileTools.h"
-#include "platform/Notices.h"
+#include "screens/PersonScreen.h"
 
 namespace {
 
-class EditLongLat : public PersonFiles {
+class EditLongLat : public PersonScreen<frmEditLongLat> {
  public:
-  EditLongLat() : db(OpenPersons()) { Open(); }
+  EditLongLat() { Open(); }
 
   void Open() {
     screen = std::make_unique<frmEditLongLat>(db, settings, clsIni(AppPaths(At("app"))));
     screen->show();
   }
-  template <class T>
-  T *Find(const char *name) const {
-    T *found = screen->findChild<T *>(QLatin1String(name));
-    EXPECT_TRUE(found) << name;
-    return found;
-  }
-  void Click(const char *name) const { Find<QAbstractButton>(name)->click(); }
-  void Set(const char *name, const char *text) const {
-    if (auto *list = screen->findChild<QComboBox *>(QLatin1String(name)))
-      list->setEditText(text);
-    else
-      Find<QLineEdit>(name)->setText(text);
-  }
-  QString Text(const char *name) const {
-    const auto *list = screen->findChild<QComboBox *>(QLatin1String(name));
-    return list ? list->currentText() : Find<QLineEdit>(name)->text();
-  }
   Recordset Cities(const char *name) const { return db->OpenRecordset("SELECT * FROM City WHERE City = ? ORDER BY Country", {name}); }
 
-  std::shared_ptr<Database> db;
   MemoryUserSettings settings;
-  std::unique_ptr<frmEditLongLat> screen;
-  NoticeRecorder notices;
 };
 
 TEST_F(EditLongLat, SavesChangesAndDeletesAPlace) {
@@ -90,10 +63,7 @@ TEST_F(EditLongLat, SavesChangesAndDeletesAPlace) {
 }
 
 TEST_F(EditLongLat, APlaceIsChosenByTypingAndTheRightOneOfSeveralIsDeleted) {
-  auto *city = Find<QComboBox>("cmbCityList");
-  city->lineEdit()->setFocus();
-  city->lineEdit()->selectAll();
-  QTest::keyClicks(city->lineEdit(), "springfield");
+  Type("cmbCityList", "springfield");
   const int before = Cities("Springfield").RecordCount();
   ASSERT_GT(before, 5);
   EXPECT_TRUE(Find<QLabel>("lblCityNote")->text().contains("Missouri"));
@@ -126,9 +96,9 @@ TEST_F(EditLongLat, WarnsOfAnglesAbove180AndRefusesTheUnreadable) {
     Set(field, text);
     Click("cmdSave");
     EXPECT_TRUE(Cities("Badplace").IsEmpty()) << field;
-    EXPECT_FALSE(Find<QLabel>((std::string("fault_") + field).c_str())->isHidden()) << field;
+    EXPECT_FALSE(Fault(field).isEmpty()) << field;
     EXPECT_EQ(Text(field), text);
-    Set(field, qPrintable(good));
+    Set(field, good);
   }
   Click("cmdSave");
   EXPECT_EQ(Cities("Badplace").RecordCount(), 1);
@@ -170,17 +140,13 @@ TEST_F(EditLongLat, CountriesAreAddedChangedAndDeleted) {
   Click("cmdCModify");
   Set("cboCNTRY", "Nepal");
   Click("cmdCSave");
-  EXPECT_TRUE(Find<QLabel>("fault_txtGMTDiff")->text().contains("Nepal is in the list already"));
-  EXPECT_FALSE(Find<QLabel>("fault_txtGMTDiff")->isHidden());
+  EXPECT_TRUE(Fault("txtGMTDiff").contains("Nepal is in the list already"));
   EXPECT_EQ(difference("Nepal"), "+05.45");
   EXPECT_EQ(difference("India"), "+05.30");
 }
 
 TEST_F(EditLongLat, AChangedPlaceCanBeTakenBackWhole) {
-  auto *city = Find<QComboBox>("cmbCityList");
-  city->lineEdit()->setFocus();
-  city->lineEdit()->selectAll();
-  QTest::keyClicks(city->lineEdit(), "agra");
+  Type("cmbCityList", "agra");
   const auto agra = [&] { return db->OpenRecordset("SELECT * FROM City WHERE Region = 'Uttar Pradesh' AND City LIKE 'Agra%'"); };
   const QString zone = agra().Field("Zone").toString();
   Click("cmdChange");

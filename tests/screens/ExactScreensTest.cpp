@@ -3,23 +3,17 @@
 // The exact day and the month as their users meet them.
 #include <gtest/gtest.h>
 
-#include <QFile>
 #include <QFileDialog>
-#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPrinter>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QTimer>
 #include <set>
 
 #include "analysis/ExactDayPage.h"
-#include "analysis/SelvaniDailyMod.h"
-#include "content/Languages.h"
-#include "content/SetFonts.h"
 #include "content/pages/ChogadiyaView.h"
 #include "content/pages/DayTimeline.h"
 #include "content/pages/EvilMuhurthaView.h"
@@ -29,50 +23,17 @@
 #include "content/pages/MonthView.h"
 #include "content/pages/OverviewView.h"
 #include "content/pages/PagePdf.h"
-#include "platform/AppPaths.h"
-#include "platform/Notices.h"
+#include "platform/FileTools.h"
 #include "platform/ReportError.h"
 #include "platform/gui/AskSaveFile.h"
+#include "screens/PageFixture.h"
 
 namespace {
 
-class ExactScreens : public testing::Test {
+class ExactScreens : public PageFixture {
  protected:
-  ExactScreens()
-      : paths(QStringLiteral(ORVANI_EPHE "/..")),
-        session(settings, {OpenLanguageDb(paths, QStringLiteral("ENGLISH")),
-                           Database::OpenDatabase(paths.RecosPath(), Database::Mode::ReadOnly), nullptr}) {
-    session.LoadLastPerson({});
-    session.BuildAnalysis(QDateTime(QDate(2026, 11, 21), QTime(10, 6), Qt::UTC));
-  }
+  ExactScreens() : PageFixture(QDateTime(QDate(2026, 11, 21), QTime(10, 6), Qt::UTC)) {}
 
-  void Show(PageView &view, const QSize &size) {
-    view.resize(size);
-    view.Fill(session);
-    view.ApplyFonts(SetFonts(*FindLanguage(paths, QStringLiteral("English"))));
-    view.show();
-    QTest::qWait(1);
-  }
-
-  static QString Text(const QWidget &view, const QString &name) { return view.findChild<QLabel *>(name)->text(); }
-
-  // The row whose mark is written; -1 for none, -2 for several.
-  static int Marked(const QWidget &view, const QString &element, int rows) {
-    int marked = -1;
-    for (int row = 0; row < rows; ++row)
-      if (!Text(view, element + QString::number(row)).isEmpty()) marked = marked == -1 ? row : -2;
-    return marked;
-  }
-
-  static QByteArray Content(const QString &path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-  }
-
-  AppPaths paths;
-  MemoryUserSettings settings;
-  SelvaniDailyMod session;
-  NoticeRecorder notices;
   QTemporaryDir folder;
 };
 
@@ -97,8 +58,8 @@ TEST_F(ExactScreens, ShowTheDayAndSaveIt) {
       EXPECT_GE(label->width(), label->sizeHint().width() - 1) << label->objectName().toStdString() << " at " << size.width();
     }
   }
-  EXPECT_EQ(view.findChild<QLabel *>("lblExactWeekday")->text(), "Saturday");
-  EXPECT_EQ(view.findChild<QLabel *>("lblExactName0")->text(), "Shukla Dvadashi");
+  EXPECT_EQ(Text(view, "lblExactWeekday"), "Saturday");
+  EXPECT_EQ(Text(view, "lblExactName0"), "Shukla Dvadashi");
   Show(view, {862, 618});  // filled again, the tables are there once
   EXPECT_EQ(view.findChildren<QLabel *>("lblExactName0").size(), 1);
 
@@ -109,8 +70,8 @@ TEST_F(ExactScreens, ShowTheDayAndSaveIt) {
   QString path = folder.filePath("day.pdf");
   view.SetAskFile([&](const QString &) { return path; });
   QTest::mouseClick(view.findChild<QPushButton *>("cmdExactPdf"), Qt::LeftButton);
-  EXPECT_TRUE(Content(path).startsWith("%PDF"));
-  EXPECT_EQ(Content(path).count("/Type /Page\n"), 1);
+  EXPECT_TRUE(ReadFileIfAny(path).startsWith("%PDF"));
+  EXPECT_EQ(ReadFileIfAny(path).count("/Type /Page\n"), 1);
   EXPECT_TRUE(notices.Seen().empty());
   path = folder.path();  // a folder is no file
   QTest::mouseClick(view.findChild<QPushButton *>("cmdExactPdf"), Qt::LeftButton);
@@ -174,8 +135,8 @@ TEST_F(ExactScreens, WalkThroughTheMonths) {
   view.SetAskFile([&](const QString &suggested) { return folder.filePath(suggested); });
   QTest::mouseClick(view.findChild<QPushButton *>("cmdMonthPdf"), Qt::LeftButton);
   QTest::mouseClick(view.findChild<QPushButton *>("cmdMonthIcs"), Qt::LeftButton);
-  EXPECT_EQ(Content(folder.filePath("November 2026.pdf")).count("/Type /Page\n"), 1);
-  EXPECT_TRUE(Content(folder.filePath("November 2026.ics")).startsWith("BEGIN:VCALENDAR"));
+  EXPECT_EQ(ReadFileIfAny(folder.filePath("November 2026.pdf")).count("/Type /Page\n"), 1);
+  EXPECT_TRUE(ReadFileIfAny(folder.filePath("November 2026.ics")).startsWith("BEGIN:VCALENDAR"));
   EXPECT_TRUE(notices.Seen().empty());
 }
 
@@ -196,9 +157,7 @@ TEST_F(ExactScreens, TellTheRoomOfADayWhereItIsPainted) {
 // A name typed without its ending is that of a file all the same, and the file is not replaced unasked.
 TEST_F(ExactScreens, AskBeforeAFileIsReplaced) {
   const QString held = folder.filePath("held.pdf");
-  QFile file(held);
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-  file.close();
+  WriteWholeFile(held, {});
   for (const auto answer : {QMessageBox::No, QMessageBox::Yes}) {
     QString question;
     bool typed = false;
@@ -246,8 +205,8 @@ TEST_F(ExactScreens, TellExactTimesAndSaySo) {
     for (const QSize &size : {QSize(1500, 900), QSize(862, 618), QSize(414, 340)}) {
       Show(chogadiya, size);
       Show(hora, size);
-      EXPECT_EQ(Marked(chogadiya, "lblChogMark", 16), moment.chogadiya);
-      EXPECT_EQ(Marked(hora, "lblHoraMark", 24), moment.hora);
+      EXPECT_EQ(Marked(chogadiya, "lblChogMark", 16), QList<int>{moment.chogadiya});
+      EXPECT_EQ(Marked(hora, "lblHoraMark", 24), QList<int>{moment.hora});
       for (const QWidget *view : std::initializer_list<QWidget *>{&chogadiya, &hora}) {
         const auto *head = view->findChild<QLabel *>("lblExactHead");
         EXPECT_TRUE(head->isVisible() && head->text().startsWith("Exact times of "));
@@ -260,7 +219,7 @@ TEST_F(ExactScreens, TellExactTimesAndSaySo) {
   EvilMuhurthaView evil;
   Show(evil, {862, 618});
   EXPECT_EQ(Text(evil, "lblYamGhanTmS"), "13:23");
-  EXPECT_EQ(Marked(evil, "lblMuhurthaMark", 4), 2);
+  EXPECT_EQ(Marked(evil, "lblMuhurthaMark", 4), QList<int>{2});
   EXPECT_TRUE(evil.findChild<QLabel *>("lblExactHead")->isVisible());
   OverviewView overview;
   Show(overview, {862, 618});
@@ -286,17 +245,7 @@ TEST_F(ExactScreens, TellExactTimesAndSaySo) {
 
 TEST_F(ExactScreens, NameAPolarNightInPlaceOfItsParts) {
   settings.SetIntValue(SettingKeys::DayDivisions, 2);
-  PlaceRecord murmansk;
-  murmansk.City = "Murmansk";
-  murmansk.Country = "Russia";
-  murmansk.GMTDIFF = "+03.00";
-  murmansk.LatDeg = 68;
-  murmansk.LatMT = 58;
-  murmansk.TextNS = "N";
-  murmansk.LongDeg = 33;
-  murmansk.LongMT = 5;
-  murmansk.TextEW = "E";
-  session.SetResidence(murmansk);
+  session.SetResidence(PlaceRecord{"Murmansk", "Russia", "+03.00", 68, 58, 33, 5, "N", "E"});
   session.BuildAnalysis(QDateTime(QDate(2025, 1, 1), QTime(12, 0), Qt::UTC));
   ChogadiyaView chogadiya;
   EvilMuhurthaView evil;
@@ -308,7 +257,7 @@ TEST_F(ExactScreens, NameAPolarNightInPlaceOfItsParts) {
   }
   EXPECT_FALSE(chogadiya.findChild<QLabel *>("lblChogTime0")->isVisible());
   EXPECT_EQ(Text(evil, "lblKantakTmE"), "none: polar night");
-  EXPECT_EQ(Marked(evil, "lblMuhurthaMark", 4), -1);
+  EXPECT_EQ(Marked(evil, "lblMuhurthaMark", 4), QList<int>());
   session.SetResidence(std::nullopt);
   session.BuildAnalysis(QDateTime(QDate(2025, 1, 1), QTime(12, 0), Qt::UTC));
   Show(chogadiya, {862, 618});

@@ -27,6 +27,7 @@
 #include "content/frmSettings.h"
 #include "content/pages/ScoreLine.h"
 #include "persons/frmPeople.h"
+#include "platform/FileTools.h"
 #include "platform/Recordset.h"
 #include "support/DataFolder.h"
 
@@ -100,6 +101,14 @@ class MainScreen : public testing::Test {
     timer->start(5);
   }
 
+  void ChooseInWizard(const char *option) {
+    InModal<frmSettings>([option](frmSettings &wizard) {
+      for (const char *button : {option, "flpNextFrame", "flpNextFrame", "flpNextFrame", "flpFinish"})
+        wizard.findChild<QAbstractButton *>(QLatin1String(button))->click();
+    });
+    Press("flpSettings");
+  }
+
   DataFolder data;
   MemoryUserSettings settings;
   MessageBoxes boxes;
@@ -126,17 +135,22 @@ TEST_F(MainScreen, OpensOnTheOverviewOfTheDay) {
   EXPECT_TRUE(notices.isEmpty()) << notices.join("; ").toStdString();
 }
 
-TEST_F(MainScreen, ReachesEveryPageThroughItsButtons) {
+TEST_F(MainScreen, ReachesEveryPageThroughItsButtonsAndSavesItAsAPdf) {
   Open();
+  QTemporaryDir folder;
+  QString suggested;
+  screen->SetFileChooser([&](const QString &name) {
+    suggested = name;
+    return folder.filePath("page.pdf");
+  });
   for (const contentManager::Row &row : contentManager::Table()) {
     const char *list = nullptr;
     int index = -1;
-    for (int i = 0; i < 30 && !list; ++i) {
+    for (int i = 0; i < 30 && !list; ++i)
       if (frmMain::PageOfChartList(i) == row.page)
         list = "flpCharts", index = i;
       else if (frmMain::PageOfPredictionList(i) == row.page)
         list = "flpPredictions", index = i;
-    }
     if (list) {
       Press(list);
       auto *tile = Find<QAbstractButton>(QString(list == QLatin1String("flpCharts") ? "flpChartList%1" : "flpPrediList%1").arg(index));
@@ -154,12 +168,20 @@ TEST_F(MainScreen, ReachesEveryPageThroughItsButtons) {
     } else {
       EXPECT_NE(Find<QWidget>(row.element), nullptr) << row.element;
     }
+    QFile::remove(folder.filePath("page.pdf"));
+    Press("flpPdf");
+    EXPECT_GT(QFileInfo(folder.filePath("page.pdf")).size(), 1000) << row.page;
+    EXPECT_TRUE(suggested.contains("Anvik Telvar")) << suggested.toStdString();
   }
   EXPECT_TRUE(notices.isEmpty()) << notices.join("; ").toStdString();
   for (const int index : {2, 5, 19, 21, 24, -1, 99}) EXPECT_EQ(frmMain::PageOfChartList(index), 0) << index;
   const int before = screen->Pages().Current();
   for (const int page : {0, 3, 4, 14, 26, 40, 999}) screen->Pages().ShowPage(page);
   EXPECT_EQ(screen->Pages().Current(), before) << "a number that is no page changes nothing";
+  screen->SetFileChooser([](const QString &) { return QString("/dev/null/page.pdf"); });
+  Press("flpPdf");
+  QApplication::processEvents();
+  EXPECT_EQ(notices.size(), 1);
 }
 
 TEST_F(MainScreen, GoesBackOneStep) {
@@ -273,11 +295,7 @@ TEST_F(MainScreen, ShowsHintsAndOpensTheAddress) {
 }
 
 TEST_F(MainScreen, GoesOnWithoutItsStoresPicturesAndWords) {
-  {
-    QFile store(data.File("COMMON/RECOS.Dat"));
-    ASSERT_TRUE(store.open(QIODevice::WriteOnly));
-    store.write("no store any more");
-  }
+  WriteWholeFile(data.File("COMMON/RECOS.Dat"), "no store any more");
   QDir(data.File("SKIN")).removeRecursively();
   Open();
   ASSERT_EQ(notices.size(), 1);
@@ -295,11 +313,8 @@ TEST_F(MainScreen, GoesOnWithoutItsStoresPicturesAndWords) {
 TEST_F(MainScreen, OffersTheKeptCopyOfADamagedStore) {
   Open();  // keeps a copy
   screen.reset();
-  {
-    QFile store(data.File("COMMON/RECOS.Dat"));
-    ASSERT_TRUE(store.open(QIODevice::ReadWrite));
-    store.resize(store.size() / 3);
-  }
+  const QString store = data.File("COMMON/RECOS.Dat");
+  WriteWholeFile(store, ReadWholeFile(store).first(9000));
   answer = true;
   Open();
   ASSERT_EQ(questions.size(), 1);
@@ -322,27 +337,6 @@ TEST_F(MainScreen, AClickOnAScoresCourseGoesToItsDay) {
   EXPECT_TRUE(line->TellDay(0).startsWith("Monday, 30 November 2026"));
 }
 
-TEST_F(MainScreen, SavesEveryPageAsAPdf) {
-  Open();
-  QTemporaryDir folder;
-  QString suggested;
-  screen->SetFileChooser([&](const QString &name) {
-    suggested = name;
-    return folder.filePath("page.pdf");
-  });
-  for (const contentManager::Row &row : contentManager::Table()) {
-    QFile::remove(folder.filePath("page.pdf"));
-    screen->Pages().ShowPage(row.page);
-    Press("flpPdf");
-    EXPECT_GT(QFileInfo(folder.filePath("page.pdf")).size(), 1000) << row.page;
-  }
-  EXPECT_TRUE(suggested.contains("Anvik Telvar")) << suggested.toStdString();
-  screen->SetFileChooser([](const QString &) { return QString("/dev/null/page.pdf"); });
-  Press("flpPdf");
-  QApplication::processEvents();
-  EXPECT_EQ(notices.size(), 1);
-}
-
 TEST_F(MainScreen, GoesOnWithDamagedLanguageFilesAndAConfigurationThatCannotBeWritten) {
   const AppPaths paths = data.Paths();
   struct Fault {
@@ -353,13 +347,10 @@ TEST_F(MainScreen, GoesOnWithDamagedLanguageFilesAndAConfigurationThatCannotBeWr
        {Fault{paths.LangsPath(), true}, Fault{paths.LanguageDataPath("ENGLISH"), false}, Fault{paths.IniPath(), true}}) {
     const QString kept = fault.file + ".whole";
     ASSERT_TRUE(QFile::rename(fault.file, kept)) << fault.file.toStdString();
-    if (fault.file == paths.IniPath()) {
+    if (fault.file == paths.IniPath())
       ASSERT_TRUE(QDir().mkpath(fault.file));  // nothing can be written where a folder stands
-    } else {
-      QFile damaged(fault.file);
-      ASSERT_TRUE(damaged.open(QIODevice::WriteOnly));
-      damaged.write("no store any more");
-    }
+    else
+      WriteWholeFile(fault.file, "no store any more");
     notices.clear();
     Open();
     EXPECT_FALSE(notices.isEmpty()) << fault.file.toStdString();
@@ -395,32 +386,19 @@ TEST_F(MainScreen, TheSamplePersonFollowsTheSettingsToo) {
   Open();
   screen->Pages().ShowPage(9);
   const QString ascendant = Caption("lblDegrees0");
-  InModal<frmSettings>([](frmSettings &wizard) {
-    wizard.findChild<QAbstractButton *>("optSayan")->click();
-    for (int step = 0; step < 3; ++step) wizard.findChild<QAbstractButton *>("flpNextFrame")->click();
-    wizard.findChild<QAbstractButton *>("flpFinish")->click();
-  });
-  Press("flpSettings");
+  ChooseInWizard("optSayan");
   EXPECT_NE(Caption("lblDegrees0"), ascendant);
 }
 
 TEST_F(MainScreen, ShowsTheOpenPageAnewInExactTimes) {
   Open();
-  const auto choose = [&](const char *option) {
-    InModal<frmSettings>([option](frmSettings &wizard) {
-      wizard.findChild<QAbstractButton *>(QLatin1String(option))->click();
-      for (int step = 0; step < 3; ++step) wizard.findChild<QAbstractButton *>("flpNextFrame")->click();
-      wizard.findChild<QAbstractButton *>("flpFinish")->click();
-    });
-    Press("flpSettings");
-  };
   screen->Pages().ShowPage(17);
   const QString house = Caption("lblHoraTime3"), card = Caption("nowRahuKaal");
-  choose("optDivisionsExact");
+  ChooseInWizard("optDivisionsExact");
   EXPECT_NE(Caption("lblHoraTime3"), house);
   EXPECT_TRUE(Caption("lblHoraTime3").contains('-'));
   EXPECT_NE(Caption("nowRahuKaal"), card);
-  choose("optDivisionsHouse");
+  ChooseInWizard("optDivisionsHouse");
   EXPECT_EQ(Caption("lblHoraTime3"), house);
   EXPECT_EQ(Caption("nowRahuKaal"), card);
 }

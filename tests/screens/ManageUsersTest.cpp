@@ -1,71 +1,33 @@
 // SPDX-FileCopyrightText: 2026 Brivanta Works
 // SPDX-License-Identifier: AGPL-3.0-or-later
 // The screen that adds, edits and deletes persons, driven as a user drives it.
-#include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QApplication>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
 #include <QSignalSpy>
-#include <QTest>
 
-#include "persons/PersonFiles.h"
 #include "persons/frmManageUsers.h"
-#include "platform/Notices.h"
+#include "screens/PersonScreen.h"
 
 namespace {
 
-class ManageUsers : public PersonFiles {
+class ManageUsers : public PersonScreen<frmManageUsers> {
  public:
-  ManageUsers() : db(OpenPersons()) { Open(); }
-
-  void Open() {
+  ManageUsers() {
     screen = std::make_unique<frmManageUsers>(db, At("Daily.dat"));
     screen->show();
-  }
-  template <class T>
-  T *Find(const char *name) const {
-    T *found = screen->findChild<T *>(QLatin1String(name));
-    EXPECT_TRUE(found) << name;
-    return found;
-  }
-  QLineEdit *Edit(const char *name) const {
-    if (auto *list = screen->findChild<QComboBox *>(QLatin1String(name))) return list->lineEdit();
-    return Find<QLineEdit>(name);
-  }
-  QString Text(const char *name) const {
-    const auto *list = screen->findChild<QComboBox *>(QLatin1String(name));
-    return list ? list->currentText() : Find<QLineEdit>(name)->text();
-  }
-  void Type(const char *name, const QString &text) const {
-    Edit(name)->setFocus();
-    Edit(name)->selectAll();
-    QTest::keyClick(Edit(name), Qt::Key_Delete);
-    QTest::keyClicks(Edit(name), text);
-  }
-  void Choose(const char *name, const QString &text) const { Find<QComboBox>(name)->setCurrentText(text); }
-  void Click(const char *name) const { Find<QAbstractButton>(name)->click(); }
-  QString Fault(const char *field) const {
-    const auto *label = Find<QLabel>((std::string("fault_") + field).c_str());
-    return label->isHidden() ? QString() : label->text();
   }
   // As another program would see both files.
   PersonStore Store() const { return PersonStore(OpenPersons(), At("Daily.dat")); }
   void FillNew(const QString &name) const {
     Click("flpAddUser");
-    Choose("cmbPerson", name);
-    Choose("cmbBirthDay", "15");
-    Choose("cmbBirthMonth", "January");
-    Choose("cmbBirthYear", "1944");
+    Set("cmbPerson", name);
+    Set("cmbBirthDay", "15");
+    Set("cmbBirthMonth", "January");
+    Set("cmbBirthYear", "1944");
     Type("txtPerBirthTime", "21.05");
     Type("cmbBirthCountry", "united states");
     Type("cmbBirthCity", "new yor");
   }
-
-  std::shared_ptr<Database> db;
-  std::unique_ptr<frmManageUsers> screen;
-  NoticeRecorder notices;
 };
 
 TEST_F(ManageUsers, AddsAPersonBornFarAwayWithTheClockOfThatDay) {
@@ -165,15 +127,15 @@ TEST_F(ManageUsers, WhatCannotBeReadStaysAndIsNotSaved) {
     EXPECT_EQ(Store().All(), before);
   }
   screen->ChoosePerson("Anvik Telvar");
-  Choose("cmbBirthMonth", "February");
-  Choose("cmbBirthDay", "30");
+  Set("cmbBirthMonth", "February");
+  Set("cmbBirthDay", "30");
   Click("flpSave");
   EXPECT_EQ(Fault("cmbBirthDay"), "There is no 30 February 1980.");
   EXPECT_EQ(Store().All(), before);
 
   for (const char *blank : {"", "   "}) {
     notices.Clear();
-    Choose("cmbPerson", blank);
+    Set("cmbPerson", blank);
     Click("flpSave");
     ASSERT_EQ(notices.Seen().size(), 1U);
     EXPECT_EQ(notices.Seen()[0].text, "Please enter a name.");
@@ -209,7 +171,7 @@ TEST_F(ManageUsers, PassingThroughAFieldChangesNothing) {
     EXPECT_EQ(Text("txtLati"), "027:11") << field;
     EXPECT_EQ(Text("txtPerBirthTime"), "11.11") << field;
   }
-  Choose("cmbPerson", "zoya");
+  Set("cmbPerson", "zoya");
   QTest::keyClick(Edit("cmbPerson"), Qt::Key_Return);
   EXPECT_EQ(Text("txtPerBirthTime"), "21.05") << "the Enter key chooses a name that is typed whole";
 }

@@ -158,18 +158,6 @@ TEST(People, FindsByAnyPartAndChoosesByKeyAndMouse) {
   EXPECT_FALSE(people.screen.isVisible());
 }
 
-TEST(People, TenThousandNamesNarrowToTheOneTyped) {
-  PeopleScreen people;
-  QStringList names;
-  for (int i = 0; i < 10000; ++i) names << QStringLiteral("Person Number %1").arg(i, 5, 10, QLatin1Char('0'));
-  people.screen.SetNames(names);
-  people.screen.OpenAt({0, 0});
-  QCoreApplication::processEvents();
-  people.find->setText("9999");
-  QCoreApplication::processEvents();
-  EXPECT_EQ(people.Shown(), QStringList{"Person Number 09999"});
-}
-
 TEST(Status, TellsWhatIsGoingOnAndCanBeCancelled) {
   frmStatus status;
   const std::tuple<void (frmStatus::*)(), const char *, const char *> works[] = {

@@ -12,6 +12,7 @@
 #include "app/frmMessage.h"
 #include "app/frmSplash.h"
 #include "platform/Errors.h"
+#include "platform/FileTools.h"
 #include "platform/Notices.h"
 #include "platform/Store.h"
 #include "screens/ModalAnswer.h"
@@ -53,10 +54,7 @@ struct Start {
 TEST(Fonts, AMissingOrBrokenFontFileIsTold) {
   DataFolder data;
   for (const QFileInfo &font : QDir(data.File("FONTI")).entryInfoList(QDir::Files)) QFile::remove(font.filePath());
-  QFile broken(data.File("FONTI") + QStringLiteral("/ASTRO570.IFT"));
-  ASSERT_TRUE(broken.open(QIODevice::WriteOnly));
-  broken.write("no font");
-  broken.close();
+  WriteWholeFile(data.File("FONTI/ASTRO570.IFT"), "no font");
   QString text;
   const ModalAnswer answer([&](QWidget &screen) {
     text = TextOf(screen, "lblText");
@@ -120,11 +118,7 @@ TEST(Splash, AMissingDataFileEndsTheProgram) {
 
 TEST(Splash, ADamagedListOfLanguagesDoesNotEndTheProgram) {
   Start start;
-  {
-    QFile damaged(start.data.File("COMMON/LANGS.Dat"));
-    ASSERT_TRUE(damaged.open(QIODevice::WriteOnly));
-    damaged.write("no store any more");
-  }
+  WriteWholeFile(start.data.File("COMMON/LANGS.Dat"), "no store any more");
   start.Run();
   EXPECT_EQ(start.steps, QStringList({"setup", "main"}));
 }

@@ -3,16 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <QComboBox>
-#include <QLabel>
 #include <QRadioButton>
-#include <QTest>
 #include <cmath>
 
-#include "analysis/SelvaniDailyMod.h"
 #include "analysis/clsDayGraph.h"
 #include "app/StudyJson.h"
 #include "chart/Kundali.h"
-#include "content/Languages.h"
 #include "content/pages/AshtakavargaView.h"
 #include "content/pages/AspectsView.h"
 #include "content/pages/BirthAttributesView.h"
@@ -21,48 +17,24 @@
 #include "content/pages/UpagrahasView.h"
 #include "content/pages/VakyaView.h"
 #include "content/pages/VargasView.h"
-#include "platform/Notices.h"
-#include "support/DataFolder.h"
+#include "screens/PageFixture.h"
 
 namespace {
 
-// The sample person of the stores, or one given by hand, on 21 November 2026.
-struct Day {
-  explicit Day(const std::optional<BirthRecord> &birth = {}) {
-    if (birth)
-      session.SetBirthPerson(*birth);
-    else
-      EXPECT_TRUE(session.LoadLastPerson({}));
-    session.BuildAnalysis(QDateTime(QDate(2026, 11, 21), QTime(6, 30), Qt::UTC));
-  }
-
-  AppPaths paths{QStringLiteral(ORVANI_EPHE "/..")};
-  MemoryUserSettings settings;
-  SelvaniDailyMod session{
-      settings,
-      {OpenLanguageDb(paths, QStringLiteral("ENGLISH")), Database::OpenDatabase(paths.RecosPath(), Database::Mode::ReadOnly),
-       Database::OpenDatabase(paths.DailyPath(), Database::Mode::ReadOnly)}};
+struct Day : SampleDay {
+  explicit Day(const std::optional<BirthRecord> &birth = {}) : SampleDay(QDateTime(QDate(2026, 11, 21), QTime(6, 30), Qt::UTC), birth) {}
 };
 
 BirthRecord BornAt(const char *city, int latitude, const char *northSouth, int longitude, const char *eastWest, const char *zone) {
-  BirthRecord record;
-  record.Name = QStringLiteral("Study");
-  record.Day = 2;
-  record.Month = 1;
-  record.Year = 2001;
-  record.Hour = 23;
-  record.Minutes = 40;
-  record.Sex = 1;
-  record.TimeCorr = QStringLiteral("+01.00");
-  record.place = {QLatin1String(city),    {}, QLatin1String(zone), latitude, 10, longitude, 20, QLatin1String(northSouth),
-                  QLatin1String(eastWest)};
-  return record;
-}
-
-QString Text(const QWidget &page, const QString &element) {
-  const auto *label = page.findChild<QLabel *>(element);
-  if (!label) ADD_FAILURE() << "no element " << element.toStdString();
-  return label ? label->text() : QString();
+  return {.Name = "Study",
+          .Day = 2,
+          .Month = 1,
+          .Year = 2001,
+          .Hour = 23,
+          .Minutes = 40,
+          .Sex = 1,
+          .place = {city, {}, zone, latitude, 10, longitude, 20, northSouth, eastWest},
+          .TimeCorr = "+01.00"};
 }
 
 }  // namespace
@@ -96,23 +68,6 @@ TEST(StudyPages, FillForEveryPlaceWithoutAMissingWord) {
     }
     for (const Notice &notice : notices.Seen()) ADD_FAILURE() << notice.text.toStdString();
   }
-}
-
-// Words that few charts ask for.
-TEST(StudyPages, HaveAWordForEveryAnswer) {
-  Day day;
-  NoticeRecorder notices;
-  const std::pair<const char *, int> families[] = {{"Tara", 9}, {"Degree", 5}, {"DegreeCode", 5}, {"Varga", 17}, {"Sign", 12}};
-  for (const auto &[head, count] : families)
-    for (int number = 1; number <= count; ++number)
-      day.session.TodayChart().GetHeadValue(1, QLatin1String(head) + QString::number(number), QStringLiteral("Study"));
-  for (const char *head : {"StandingOwn", "StandingFriend", "StandingNeutral", "StandingEnemy", "LevelFavourable", "LevelMixed",
-                           "LevelAdverse", "NoVargottama", "VargottamaLine", "PlaceNote"})
-    day.session.TodayChart().GetHeadValue(1, QLatin1String(head), QStringLiteral("Study"));
-  for (const char *title :
-       {"StudyList", "DivisionalCharts", "Ashtakavarga", "Upagrahas", "Aspects", "BirthAttributes", "DayScores", "VakyaPositions"})
-    EXPECT_FALSE(day.session.TodayChart().GetHeadValue(11, QLatin1String(title), QStringLiteral("GEN")).isEmpty()) << title;
-  EXPECT_TRUE(notices.Seen().empty());
 }
 
 TEST(Vargas, ShowTheChosenChartAndMarkVargottamaByWord) {
