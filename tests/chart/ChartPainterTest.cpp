@@ -35,9 +35,8 @@ bool Holds(const QPolygonF &shape, const QRectF &box) {
 // The cell on the target, without the border's half pen: wide enough to judge by.
 QPolygonF OnTarget(const QPolygonF &shape, const QRectF &target) {
   QPolygonF mapped;
-  for (const QPointF &p : shape) {
+  for (const QPointF &p : shape)
     mapped << QPointF(target.left() + p.x() * target.width() / 1000, target.top() + p.y() * target.height() / 1000);
-  }
   return mapped;
 }
 
@@ -68,11 +67,9 @@ TEST(ChartPainter, SevenInOneSignStayReadableAt320Pixels) {
               boxes.push_back(texts.numbers[cell].box);
             }
           }
-          for (size_t a = 0; a < boxes.size(); ++a) {
-            for (size_t b = a + 1; b < boxes.size(); ++b) {
+          for (size_t a = 0; a < boxes.size(); ++a)
+            for (size_t b = a + 1; b < boxes.size(); ++b)
               EXPECT_TRUE(boxes[a].intersected(boxes[b]).height() < 0.5 || boxes[a].intersected(boxes[b]).width() < 0.5);
-            }
-          }
         }
       }
     }

@@ -182,9 +182,8 @@ TEST(ImageButton, ItsTextShowsWhereThePictureIsMissing) {
     image.fill(Qt::white);
     const_cast<ImageButton &>(button).render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
     int count = 0;
-    for (int y = 0; y < image.height(); ++y) {
+    for (int y = 0; y < image.height(); ++y)
       for (int x = 0; x < image.width(); ++x) count += image.pixelColor(x, y).lightness() < 100 ? 1 : 0;
-    }
     return count;
   };
   ImageButton button;

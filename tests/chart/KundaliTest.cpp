@@ -75,16 +75,6 @@ TEST(Kundali, KeysActLikeAClick) {
   EXPECT_EQ(recorder.Take().find("Click"), std::string::npos);
 }
 
-TEST(Kundali, ASpokenDescriptionFollowsThePlanets) {
-  Kundali chart;
-  chart.SetHouseNumber(6);
-  chart.PlanetPlace(6, "Asc");
-  EXPECT_EQ(chart.accessibleDescription(), "House 1, sign 6: Asc.");
-  chart.Clear();
-  EXPECT_EQ(chart.accessibleDescription(), "No planets are placed.");
-  EXPECT_FALSE(chart.accessibleName().isEmpty());
-}
-
 TEST(Kundali, PropertiesAreToldByNameAndTheSurfaceObeys) {
   Kundali chart;
   QSignalSpy told(&chart, &Kundali::PropertyChanged);

@@ -78,9 +78,8 @@ TEST(TextFit, ACrowdedTextTakesTheRestOfItsCellButNotTheNumbersPlace) {
   EXPECT_EQ(fitted.pixelSize, 10);
   ASSERT_EQ(fitted.words.size(), 6U);
   for (const auto &word : fitted.words) {
-    for (const QPointF &corner : {word.box.bottomLeft(), word.box.bottomRight()}) {
+    for (const QPointF &corner : {word.box.bottomLeft(), word.box.bottomRight()})
       EXPECT_TRUE(corner.x() - corner.y() >= 0 && corner.x() + corner.y() <= 100) << word.text.toStdString();
-    }
     EXPECT_FALSE(word.box.intersects(task.taken)) << word.text.toStdString();
   }
 }
