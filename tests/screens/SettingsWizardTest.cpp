@@ -56,50 +56,40 @@ TEST_F(SettingsWizard, StepsGoForwardAndBack) {
 
 TEST_F(SettingsWizard, ReadsAndWritesEveryChoice) {
   struct Row {
-    const char *ayanType, *nodeMode, *style;            // stored before; null for never stored
-    const char *ayanOption, *nodeOption, *styleOption;  // shown; empty for none
-    const char *ayanAfter, *nodeAfter, *styleAfter;     // after Finish with nothing changed
+    const char *ayanType, *nodeMode, *style, *divisions, *sunrise;  // stored before; null for never stored
+    const char *ayanOption, *nodeOption, *styleOption;              // shown; empty for none
+    bool exact, limb;
+    const char *ayanAfter, *nodeAfter, *styleAfter;  // after Finish with nothing changed
   };
   const Row rows[] = {
-      {nullptr, nullptr, nullptr, "optLahiri", "optRahuMean", "optNorthKundli", "1", "1", "0"},
-      {"2", "2", "1", "optRaman", "optRahuTrue", "optEastKundli", "2", "2", "1"},
-      {"3", "7", "2", "optKP", "optRahuTrue", "optSouthKundli", "3", "2", "2"},
-      {"12", "1", "5", "optSayan", "optRahuMean", "", "12", "1", "2"},
-      {"13", "1", "0", "", "optRahuMean", "optNorthKundli", "13", "1", "0"},
+      {nullptr, nullptr, nullptr, nullptr, nullptr, "optLahiri", "optRahuMean", "optNorthKundli", false, false, "1", "1", "0"},
+      {"2", "2", "1", "2", "2", "optRaman", "optRahuTrue", "optEastKundli", true, true, "2", "2", "1"},
+      {"3", "7", "2", "7", "0", "optKP", "optRahuTrue", "optSouthKundli", false, false, "3", "2", "2"},
+      {"12", "1", "5", "2", "1", "optSayan", "optRahuMean", "", true, false, "12", "1", "2"},
+      {"13", "1", "0", "1", "2", "", "optRahuMean", "optNorthKundli", false, true, "13", "1", "0"},
   };
   for (const Row &row : rows) {
     settings = MemoryUserSettings();
     if (row.ayanType) settings.SetValue(SettingKeys::AyanType, row.ayanType);
     if (row.nodeMode) settings.SetValue(SettingKeys::RahuKetuMode, row.nodeMode);
     if (row.style) settings.SetValue("Init", "Kundstyle", row.style);
+    if (row.divisions) settings.SetValue(SettingKeys::DayDivisions, row.divisions);
+    if (row.sunrise) settings.SetValue(SettingKeys::SunriseRule, row.sunrise);
     Open();
+    EXPECT_TRUE(Button("optDivisionsExact").isVisible()) << "on the first step";
     EXPECT_EQ(Set({"optLahiri", "optRaman", "optKP", "optSayan"}), row.ayanOption);
     EXPECT_EQ(Set({"optRahuMean", "optRahuTrue"}), row.nodeOption);
     EXPECT_EQ(Set({"optNorthKundli", "optEastKundli", "optSouthKundli"}), row.styleOption);
+    EXPECT_EQ(Set({"optDivisionsHouse", "optDivisionsExact"}), row.exact ? "optDivisionsExact" : "optDivisionsHouse");
+    EXPECT_EQ(Set({"optSunriseCentre", "optSunriseLimb"}), row.limb ? "optSunriseLimb" : "optSunriseCentre");
     Finish();
     EXPECT_EQ(wizard->result(), QDialog::Accepted);
     EXPECT_EQ(settings.Value(SettingKeys::AyanType), row.ayanAfter);
     EXPECT_EQ(settings.Value(SettingKeys::RahuKetuMode), row.nodeAfter);
     EXPECT_EQ(settings.Value(SettingKeys::KundStyle), row.styleAfter);
   }
-}
-
-TEST_F(SettingsWizard, OffersTheDayDivisionsOnItsFirstStep) {
-  struct Row {
-    const char *divisions, *sunrise;  // stored before; null for never stored
-    const char *divisionsOption, *sunriseOption;
-  };
-  for (const Row &row : {Row{nullptr, nullptr, "optDivisionsHouse", "optSunriseCentre"},
-                         Row{"2", "2", "optDivisionsExact", "optSunriseLimb"}, Row{"7", "0", "optDivisionsHouse", "optSunriseCentre"}}) {
-    settings = MemoryUserSettings();
-    if (row.divisions) settings.SetValue(SettingKeys::DayDivisions, row.divisions);
-    if (row.sunrise) settings.SetValue(SettingKeys::SunriseRule, row.sunrise);
-    Open();
-    EXPECT_EQ(Frame(), "framAyanamsha");
-    EXPECT_EQ(Set({"optDivisionsHouse", "optDivisionsExact"}), row.divisionsOption);
-    EXPECT_EQ(Set({"optSunriseCentre", "optSunriseLimb"}), row.sunriseOption);
-    EXPECT_TRUE(Button("optDivisionsExact").isVisible());
-  }
+  settings = MemoryUserSettings();
+  Open();
   Button("optDivisionsExact").click();
   Button("optSunriseLimb").click();
   EXPECT_EQ(Set({"optLahiri"}), "optLahiri") << "each group keeps its own choice";
