@@ -15,9 +15,8 @@ class DataFolderTest : public StoreFixture {
   }
 
   void Install(const QByteArray &version) const {
-    for (const char *file : {"COMMON/RECOS.Dat", "COMMON/Daily.dat", "COMMON/LANGS.Dat", "ENGLISH/ENGLISH.DAT", "INIFILES/GENDAT.INI"}) {
+    for (const char *file : {"COMMON/RECOS.Dat", "COMMON/Daily.dat", "COMMON/LANGS.Dat", "ENGLISH/ENGLISH.DAT", "INIFILES/GENDAT.INI"})
       WriteWholeFile(At("share/EPHE/") + file, version);
-    }
     WriteWholeFile(At("share/EPHE/SEED"), version + '\n');
   }
 };
@@ -158,9 +157,8 @@ TEST_F(DataFolderTest, ALanguageIsOfferedExactlyWhileItsFileExists) {
   const auto offered = [&] {
     QStringList names;
     const auto database = Database::OpenDatabase(paths.LangsPath());
-    for (Recordset rows = database->OpenRecordset("SELECT * FROM Language WHERE Include ORDER BY Name"); !rows.AtEnd(); rows.MoveNext()) {
+    for (Recordset rows = database->OpenRecordset("SELECT * FROM Language WHERE Include ORDER BY Name"); !rows.AtEnd(); rows.MoveNext())
       names << rows.Field("Name").toString();
-    }
     return names.join(",");
   };
   const NoticeRecorder notices;

@@ -26,10 +26,6 @@ TEST_F(SettingsTest, FileSettingsOutliveTheirObjectAndIgnoreCase) {
   EXPECT_EQ(ReadWholeFile(path).toLower().count("kundstyle"), 1) << "two spellings are one entry";
   EXPECT_TRUE(settings.BoolValue(SettingKeys::DoneSetup));
   EXPECT_EQ(settings.Value(SettingKeys::CustAyan), "23,5; \"x\" = O'Brien");
-
-  WriteWholeFile(At("file"), "");
-  FileUserSettings unwritable(At("file/orvani.conf"));
-  EXPECT_THROW(unwritable.SetValue(SettingKeys::AyanType, "3"), StoreError);
 }
 
 TEST_F(SettingsTest, SeveralSettingsAreOneWrite) {
@@ -142,22 +138,6 @@ TEST_F(SettingsTest, AnIniIsMadeWithItsFolderAndAFileInTheWayIsTold) {
   EXPECT_EQ(clsIni(AppPaths(At("blocked"))).GetIniString("B", "usual"), "usual");
   ASSERT_EQ(notices.Seen().size(), 1U) << "one word for all that is asked of it";
   EXPECT_TRUE(notices.Seen()[0].text.contains("GENDAT.INI")) << notices.Seen()[0].text;
-}
-
-TEST_F(SettingsTest, AGarbledIniIsToldAndSetAsideByTheFirstWrite) {
-  for (const QByteArray &garbage : {QByteArray("\x01\x02\x00\x03=\x04\n", 7), QByteArray("words of no meaning\nand more\n")}) {
-    const AppPaths paths(At("garbled"));
-    WriteWholeFile(paths.IniPath(), garbage);
-    const NoticeRecorder notices;
-    EXPECT_EQ(clsIni(paths).GetIniString("SelLang", "English"), "English");
-    ASSERT_EQ(notices.Seen().size(), 1U);
-    EXPECT_TRUE(notices.Seen()[0].text.contains(paths.IniPath())) << notices.Seen()[0].text;
-    clsIni(paths).WriteIniString("SelLang", "0");
-    EXPECT_EQ(clsIni(paths).GetIniString("SelLang", ""), "0");
-    EXPECT_EQ(ReadWholeFile(paths.IniPath() + ".damaged"), garbage);
-    EXPECT_EQ(notices.Seen().size(), 2U) << "where it lies now is told";
-    QDir(At("garbled")).removeRecursively();
-  }
 }
 
 // Each of two windows holds what it has read; a write of one must not carry the other's old values back.

@@ -39,9 +39,7 @@ class StoreFixture : public testing::Test {
         QSqlQuery query(outside);
         ASSERT_TRUE(query.exec(statement)) << qPrintable(statement) << ": " << qPrintable(query.lastError().text());
       }
-      if (meanwhile) {
-        meanwhile();
-      }
+      if (meanwhile) meanwhile();
     }
     QSqlDatabase::removeDatabase("outside");
   }
@@ -62,9 +60,7 @@ class StoreFixture : public testing::Test {
     try {
       work();
     } catch (const StoreError &error) {
-      if (sentence != nullptr) {
-        *sentence = error.Sentence();
-      }
+      if (sentence != nullptr) *sentence = error.Sentence();
       return error.Reason();
     }
     ADD_FAILURE() << "nothing was refused";
