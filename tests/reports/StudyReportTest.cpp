@@ -223,15 +223,6 @@ TEST_F(StudyReportTest, BarsAndLinesAreDrawnToMeasure) {
   }
 }
 
-TEST_F(StudyReportTest, AChartWithManyAspectsKeepsToItsPages) {
-  const PlaceRecord lima{"Lima", {}, "-5.00", 12, 10, 77, 20, "S", "W"};
-  session.SetBirthPerson({.Name = "Lima", .Day = 21, .Month = 6, .Year = 1999, .Hour = 12, .place = lima, .TimeCorr = {}});
-  session.BuildAnalysis(QDateTime(QDate(2026, 12, 21), QTime(9, 0), Qt::UTC));
-  const QString file = data.Path() + "/lima.pdf";
-  ASSERT_TRUE(Report().SavePdf(file, ReportTopics::FromKeys({"Aspects"}), nullptr, QPageSize(QPageSize::A4)));
-  EXPECT_EQ(WordsOf(file).back().page, 4);
-}
-
 // Texts three times as wide need more lines than a page has.
 class WidePrinter : public RecordingPrinter {
  public:
