@@ -18,7 +18,6 @@
 #include "app/ExactOutput.h"
 #include "platform/Errors.h"
 #include "platform/FileTools.h"
-#include "platform/Notices.h"
 #include "support/SampleDay.h"
 
 namespace {
@@ -40,8 +39,6 @@ class ExactPages : public testing::Test, protected SampleDay {
   }
 
   static QDateTime Moment(int year, int month, int day, int hour) { return QDateTime(QDate(year, month, day), QTime(hour, 6), Qt::UTC); }
-
-  NoticeRecorder notices;  // a word that is missing is a notice
 };
 
 }  // namespace
@@ -76,7 +73,6 @@ TEST_F(ExactPages, DrawTheDayFromSunriseToSunrise) {
   const ExactDayPage late = FillExactDay(Chart(AgraPlace, Moment(2026, 11, 22, 3)));
   EXPECT_EQ(late.title, page.title);
   EXPECT_NEAR(late.now, 1219.5, 0.5);
-  EXPECT_TRUE(notices.Seen().empty());
 }
 
 // A reason stands wherever there is no time.
@@ -100,7 +96,6 @@ TEST_F(ExactPages, TellWhatDoesNotHappen) {
     EXPECT_EQ(beside.sunrise, reason);
     EXPECT_FALSE(beside.rahuKaal.isEmpty());
   }
-  EXPECT_TRUE(notices.Seen().empty());
 }
 
 TEST_F(ExactPages, StandBesideFiguresThatPartByMoreThanTenMinutes) {
@@ -263,7 +258,6 @@ TEST_F(ExactPages, ShowExactTimesWhereTheSettingAsksForThem) {
   EXPECT_TRUE(lateHora.exact->now > lateHora.rows[20].begins && lateHora.exact->now < lateHora.rows[20].ends);
   settings.SetIntValue(SettingKeys::DayDivisions, 1);
   EXPECT_EQ(session.FillMainPage().lblDayVal, "Sunday") << "the house rule's day is that of the date";
-  EXPECT_TRUE(notices.Seen().empty());
 }
 
 TEST_F(ExactPages, NameTheStateOfAPolarDayInEveryCell) {
@@ -283,5 +277,4 @@ TEST_F(ExactPages, NameTheStateOfAPolarDayInEveryCell) {
     for (const EvilMuhurthaPage::Row &row : FillEvilMuhurthaPage(session.TodayChart()).rows)
       EXPECT_TRUE(row.start == none && row.end == none && row.begins == row.ends);
   }
-  EXPECT_TRUE(notices.Seen().empty());
 }

@@ -52,7 +52,6 @@ TEST_F(DailyPrinterTest, PagesComeInTheirOrderWithHeaderAndFooter) {
     }
     EXPECT_EQ(paper.page, c.lastPage);
     EXPECT_EQ(paper.ended, 1);
-    EXPECT_TRUE(notices.Seen().empty());
   }
 }
 
@@ -125,7 +124,6 @@ TEST_F(DailyPrinterTest, ExactTimesSaySoInTheirTitles) {
                                                 {3, "Evil Muhurtas, exact"},
                                                 {3, "13:23"}};
   for (const auto &[page, text] : texts) EXPECT_TRUE(paper.Find(text, page)) << page << " " << text;
-  EXPECT_TRUE(notices.Seen().empty());
 }
 
 TEST_F(DailyPrinterTest, RunningTextWrapsAndBreaksPages) {

