@@ -74,21 +74,17 @@ TEST(KundaliModel, EveryPartStandsInItsPlace) {
 }
 
 TEST(KundaliModel, NumbersWrapIntoTheTwelveWithTheirOwnEdges) {
-  const struct {
-    int value, wrapped;
-  } cases[] = {{1, 1},   {12, 12}, {13, 1},   {23, 11},  {24, 0},   {25, 1},    {36, 0},    {0, 0},
-               {-1, 11}, {-11, 1}, {-12, 12}, {-13, 11}, {-24, 12}, {32767, 7}, {-32768, 4}};
-  for (const auto &c : cases) EXPECT_EQ(KundaliModel::Expunger12(c.value), c.wrapped) << c.value;
+  const std::pair<int, int> cases[] = {{1, 1},   {12, 12}, {13, 1},   {23, 11},  {24, 0},   {25, 1},    {36, 0},    {0, 0},
+                                       {-1, 11}, {-11, 1}, {-12, 12}, {-13, 11}, {-24, 12}, {32767, 7}, {-32768, 4}};
+  for (const auto &[value, wrapped] : cases) EXPECT_EQ(KundaliModel::Expunger12(value), wrapped) << value;
 
-  const struct {
-    int houseNumber;
-    const char *numbers;
-  } houses[] = {{1, "1,2,3,4,5,6,7,8,9,10,11,12"}, {5, "5,6,7,8,9,10,11,12,1,2,3,4"}, {12, "12,1,2,3,4,5,6,7,8,9,10,11"}};
-  for (const auto &c : houses) {
+  const std::pair<int, const char *> houses[] = {
+      {1, "1,2,3,4,5,6,7,8,9,10,11,12"}, {5, "5,6,7,8,9,10,11,12,1,2,3,4"}, {12, "12,1,2,3,4,5,6,7,8,9,10,11"}};
+  for (const auto &[houseNumber, numbers] : houses) {
     KundaliModel model;
-    model.SetHouseNumber(c.houseNumber);
-    EXPECT_EQ(ShownNumbers(model), c.numbers);
-    EXPECT_EQ(model.LagnaNo(), c.houseNumber);
+    model.SetHouseNumber(houseNumber);
+    EXPECT_EQ(ShownNumbers(model), numbers);
+    EXPECT_EQ(model.LagnaNo(), houseNumber);
   }
 }
 

@@ -106,15 +106,10 @@ TEST(PersonFields, ReadsWhatIsMeantAndGuessesNothing) {
   EXPECT_EQ(PersonFields::SignedArcMinutes("2709", "E"), minutes) << "as a number would be kept";
   EXPECT_EQ(PersonFields::SignedArcMinutes("soon", "S"), 0);
 
-  struct Half {
-    const char *typed;
-    bool afternoon;
-    const char *result;
-  };
-  for (const Half &row :
-       {Half{"01.30", true, "13.30"}, Half{"1.30", true, "13.30"}, Half{"13.30", true, "13.30"}, Half{"12.30", false, "00.30"},
-        Half{"21.05", false, "09.05"}, Half{"09.05", false, "09.05"}, Half{"", true, ""}, Half{"noon", true, "noon"}})
-    EXPECT_EQ(PersonFields::InHalfOfDay(row.typed, row.afternoon), row.result) << row.typed;
+  const std::tuple<const char *, bool, const char *> halves[] = {
+      {"01.30", true, "13.30"},  {"1.30", true, "13.30"},   {"13.30", true, "13.30"}, {"12.30", false, "00.30"},
+      {"23.59", false, "11.59"}, {"09.05", false, "09.05"}, {"", true, ""},           {"noon", true, "noon"}};
+  for (const auto &[typed, afternoon, result] : halves) EXPECT_EQ(PersonFields::InHalfOfDay(typed, afternoon), result) << typed;
 }
 
 }  // namespace

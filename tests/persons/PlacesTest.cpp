@@ -11,10 +11,8 @@ namespace {
 
 TEST_F(PersonFiles, FindsThePlaceThatIsMeant) {
   const PlaceSearch search(OpenPersons());
-  struct Row {
-    const char *typed, *country, *label;  // label of the first answer; empty for none
-  };
-  const Row rows[] = {
+  const std::array<const char *, 3> rows[] = {
+      // typed, country, label of the first answer or nothing
       {"agra", "India", "Agra, Uttar Pradesh, India"},
       {"Mumb", "India", "Mumbai, Maharashtra, India"},
       {"bombay", "India", "Mumbai, Maharashtra, India"},
@@ -29,9 +27,9 @@ TEST_F(PersonFiles, FindsThePlaceThatIsMeant) {
       {"Agra", "Atlantis", ""},
       {"'; --", "India", ""},
   };
-  for (const Row &row : rows) {
-    const auto found = search.First(row.typed, row.country);
-    EXPECT_EQ(found ? PlaceSearch::Fold(found->Label()) : QString(), PlaceSearch::Fold(row.label)) << row.typed;
+  for (const auto &[typed, country, label] : rows) {
+    const auto found = search.First(typed, country);
+    EXPECT_EQ(found ? PlaceSearch::Fold(found->Label()) : QString(), PlaceSearch::Fold(label)) << typed;
   }
 
   // Two of one name: told apart by region, the larger first.

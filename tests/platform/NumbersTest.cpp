@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Brivanta Works
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "platform/Errors.h"
-#include "platform/Notices.h"
 #include "platform/Numbers.h"
 
 #include <gtest/gtest.h>
@@ -12,11 +11,9 @@
 namespace {
 
 TEST(Numbers, TextsReadTheSameOnEveryMachine) {
-  const struct {
-    const char *text;
-    double number;
-  } good[] = {{"5.30", 5.3}, {" -3.5 ", -3.5}, {"+00.00", 0}, {"+5", 5}, {".5", 0.5}, {"7.", 7}, {"1e3", 1000}, {"05", 5}, {"-.25", -0.25}};
-  for (const auto &c : good) EXPECT_EQ(TextToNumber(c.text, "time zone"), c.number) << c.text;
+  const std::pair<const char *, double> good[] = {{"5.30", 5.3}, {" -3.5 ", -3.5}, {"+00.00", 0}, {"+5", 5},      {".5", 0.5},
+                                                  {"7.", 7},     {"1e3", 1000},    {"05", 5},     {"-.25", -0.25}};
+  for (const auto &[text, number] : good) EXPECT_EQ(TextToNumber(text, "time zone"), number) << text;
   for (const char *text :
        {"", " ", "5,30", "1,000", "inf", "-nan", "0x10", "5.3.1", "5 30", "+-5", "--5", "+", "-", ".", "5h", "1e999", "\u0665"})
     EXPECT_THROW(TextToNumber(text, "time zone"), ConversionError) << text;
@@ -29,13 +26,10 @@ TEST(Numbers, TextsReadTheSameOnEveryMachine) {
 }
 
 TEST(Numbers, NumbersGoToTheShortestTextThatReadsBack) {
-  const struct {
-    double number;
-    const char *text;
-  } cases[] = {{5.5, "5.5"},        {5, "5"},     {-0.0, "0"},
-               {0.1, "0.1"},        {-4, "-4"},   {1e20, "100000000000000000000"},
-               {1e-7, "0.0000001"}, {100, "100"}, {1.0 / 3, "0.3333333333333333"}};
-  for (const auto &c : cases) EXPECT_EQ(NumberToText(c.number).toStdString(), c.text);
+  const std::pair<double, const char *> cases[] = {{5.5, "5.5"},        {5, "5"},     {-0.0, "0"},
+                                                   {0.1, "0.1"},        {-4, "-4"},   {1e20, "100000000000000000000"},
+                                                   {1e-7, "0.0000001"}, {100, "100"}, {1.0 / 3, "0.3333333333333333"}};
+  for (const auto &[number, text] : cases) EXPECT_EQ(NumberToText(number).toStdString(), text);
   for (const double number : {0.1 + 0.2, 23.85 * 7, DBL_MAX, DBL_MIN, std::numeric_limits<double>::denorm_min(), -359.99999999999994})
     EXPECT_EQ(TextToNumber(NumberToText(number), "number"), number);
   EXPECT_THROW(NumberToText(std::numeric_limits<double>::quiet_NaN()), ArithmeticError);
@@ -46,18 +40,6 @@ TEST(Numbers, WholeNumbersTakeNoFraction) {
   EXPECT_EQ(TextToWhole(" +12 ", "day"), 12);
   EXPECT_EQ(TextToWhole("-2147483648", "day"), std::numeric_limits<int>::min());
   for (const char *text : {"", "5.0", "1e2", "2147483648", "abc", "+-1"}) EXPECT_THROW(TextToWhole(text, "day"), ConversionError) << text;
-}
-
-TEST(Notices, TheInnerRecorderListensAndGivesBack) {
-  NoticeRecorder outer;
-  {
-    const NoticeRecorder inner;
-    Notices::Show({Notice::Kind::Warning, "T", "inner"});
-    ASSERT_EQ(inner.Seen().size(), 1U);
-  }
-  Notices::Show({Notice::Kind::Warning, "T", "outer"});
-  ASSERT_EQ(outer.Seen().size(), 1U);
-  EXPECT_TRUE(outer.Seen()[0].text == "outer");
 }
 
 }  // namespace

@@ -154,25 +154,22 @@ TEST_F(DailyPrinterTest, RunningTextWrapsAndBreaksPages) {
   EXPECT_EQ(paper.Of(Mark::Text).size(), 2u);
 
   // A line may begin up to 9 inches down, a paragraph's last one up to 8.8.
-  struct Case {
-    double start;
-    int page;  // of the last word
-    double y;
-  };
+  using Case = std::tuple<double, int, double>;  // where it begins, and the page and height of the last word
   const double last = T + 8.8 * Inch;
-  for (const Case &c : {Case{last - 100, 1, last}, Case{last - 99, 2, T + 0.8 * Inch}}) {
+  for (const auto &[start, page, y] : {Case{last - 100, 1, last}, Case{last - 99, 2, T + 0.8 * Inch}}) {
     paper.Clear();
-    RunText("end", c.start);
-    EXPECT_EQ(paper.Find("end")->page, c.page);
-    EXPECT_EQ(paper.Find("end")->y1, c.y);
+    RunText("end", start);
+    EXPECT_EQ(paper.Find("end")->page, page);
+    EXPECT_EQ(paper.Find("end")->y1, y);
   }
   const double full = T + 9 * Inch;
-  for (const Case &c : {Case{full - 331, 2, T + 0.8 * Inch}, Case{full - 330, 2, T + 0.8 * Inch}, Case{full - 900, 1, full - 900 + 380}}) {
+  for (const auto &[start, page, y] :
+       {Case{full - 331, 2, T + 0.8 * Inch}, Case{full - 330, 2, T + 0.8 * Inch}, Case{full - 900, 1, full - 900 + 380}}) {
     paper.Clear();
-    RunText(QString(86, 'w') + " end", c.start);
-    EXPECT_EQ(paper.Find("end")->page, c.page) << c.start;
-    EXPECT_EQ(paper.Find("end")->y1, c.y);
-    EXPECT_EQ(paper.Find("Page 2", 2) != nullptr, c.page == 2);
+    RunText(QString(86, 'w') + " end", start);
+    EXPECT_EQ(paper.Find("end")->page, page) << start;
+    EXPECT_EQ(paper.Find("end")->y1, y);
+    EXPECT_EQ(paper.Find("Page 2", 2) != nullptr, page == 2);
   }
 }
 

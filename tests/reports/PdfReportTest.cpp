@@ -20,19 +20,16 @@ class PdfReportTest : public ReportFixture {
 };
 
 TEST_F(PdfReportTest, WordsStandOnBothPapersWhereTheyBelong) {
-  struct Case {
-    QPageSize::PageSizeId paper;
-    double width, height;  // points
-  };
-  for (const Case &c : {Case{QPageSize::A4, 595, 842}, Case{QPageSize::Letter, 612, 792}}) {
+  for (const QPageSize::PageSizeId paper : {QPageSize::A4, QPageSize::Letter}) {
     const QString file = File("report.pdf");
-    ASSERT_TRUE(Report().SavePdf(file, ReportTopics::Usual(), nullptr, QPageSize(c.paper)));
+    const QSizeF points = QPageSize(paper).sizePoints();
+    ASSERT_TRUE(Report().SavePdf(file, ReportTopics::Usual(), nullptr, QPageSize(paper)));
     int page = 0, generated = 0;
     for (const PdfWord &word : WordsOf(file)) {
       page = word.page;
       EXPECT_GT(word.place.left(), 36) << word.text.toStdString();
-      EXPECT_LT(word.place.right(), c.width - 12) << word.text.toStdString() << " on page " << page;
-      EXPECT_LT(word.place.bottom(), c.height - 24);
+      EXPECT_LT(word.place.right(), points.width() - 12) << word.text.toStdString() << " on page " << page;
+      EXPECT_LT(word.place.bottom(), points.height() - 24);
       if (word.text != QLatin1String("Generated")) continue;
       ++generated;
       // 1400 twips from the left, 370 fewer on the dasha page, 100 more after running text; 9.3 inches and 80 twips down.

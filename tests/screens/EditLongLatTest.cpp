@@ -161,13 +161,11 @@ TEST_F(EditLongLat, AChangedPlaceCanBeTakenBackWhole) {
 }
 
 TEST_F(EditLongLat, OptionsAndDetailsAreKept) {
-  struct Row {
-    const char *stored, *chosen;
-  };
-  for (const Row &row : {Row{"", "optLahiri"}, Row{"3", "optKP"}, Row{"12", "optSayan"}, Row{"13", "optCustom"}, Row{"15", "optLahiri"}}) {
-    if (*row.stored) settings.SetValue(SettingKeys::AyanType, row.stored);
+  for (const auto &[stored, chosen] :
+       {std::pair("", "optLahiri"), {"3", "optKP"}, {"12", "optSayan"}, {"13", "optCustom"}, {"15", "optLahiri"}}) {
+    if (*stored) settings.SetValue(SettingKeys::AyanType, stored);
     Open();
-    EXPECT_TRUE(Find<QAbstractButton>(row.chosen)->isChecked()) << row.stored;
+    EXPECT_TRUE(Find<QAbstractButton>(chosen)->isChecked()) << stored;
     EXPECT_TRUE(Find<QAbstractButton>("optVakya")->isHidden());
     EXPECT_TRUE(Find<QWidget>("framMethod")->isHidden());
   }

@@ -192,20 +192,17 @@ TEST_F(ExactScreens, TellOfAPrinterThatTakesNoPage) {
 
 TEST_F(ExactScreens, TellExactTimesAndSaySo) {
   settings.SetIntValue(SettingKeys::DayDivisions, 2);
-  struct Moment {
-    int hour, chogadiya, hora;  // the rows that run
-  };
-  // The night's last parts still run before sunrise.
-  for (const Moment &moment : {Moment{3, 13, 20}, Moment{7, 0, 0}, Moment{10, 2, 3}, Moment{18, 8, 12}, Moment{23, 11, 17}}) {
-    SCOPED_TRACE(moment.hour);
-    session.BuildAnalysis(QDateTime(QDate(2026, 11, 21), QTime(moment.hour, 6), Qt::UTC));
+  // The rows that run at an hour. The night's last parts still run before sunrise.
+  for (const auto &[hour, period, lord] : {std::tuple(3, 13, 20), {7, 0, 0}, {10, 2, 3}, {18, 8, 12}, {23, 11, 17}}) {
+    SCOPED_TRACE(hour);
+    session.BuildAnalysis(QDateTime(QDate(2026, 11, 21), QTime(hour, 6), Qt::UTC));
     ChogadiyaView chogadiya;
     HoraView hora;
     for (const QSize &size : {QSize(1500, 900), QSize(862, 618), QSize(414, 340)}) {
       Show(chogadiya, size);
       Show(hora, size);
-      EXPECT_EQ(Marked(chogadiya, "lblChogMark", 16), QList<int>{moment.chogadiya});
-      EXPECT_EQ(Marked(hora, "lblHoraMark", 24), QList<int>{moment.hora});
+      EXPECT_EQ(Marked(chogadiya, "lblChogMark", 16), QList<int>{period});
+      EXPECT_EQ(Marked(hora, "lblHoraMark", 24), QList<int>{lord});
       for (const QWidget *view : std::initializer_list<QWidget *>{&chogadiya, &hora}) {
         const auto *head = view->findChild<QLabel *>("lblExactHead");
         EXPECT_TRUE(head->isVisible() && head->text().startsWith("Exact times of "));

@@ -139,16 +139,14 @@ TEST(PeriodClockTest, HoldsFromStartUpToEnd) {
 }
 
 TEST_F(PageViewsTest, MarksThePeriodThatRuns) {
-  const struct { int hour, minute; } moments[] = {{3, 0}, {6, 40}, {7, 0}, {12, 30}, {17, 20}, {18, 0}, {23, 59}};
   const double sunrise = session.TodayChart().SunRiseTime();
-  for (const auto &moment : moments) {
-    SCOPED_TRACE(QTime(moment.hour, moment.minute).toString().toStdString());
-    session.BuildAnalysis(QDateTime(QDate(2016, 11, 21), QTime(moment.hour, moment.minute), Qt::UTC));
+  for (const QTime &time : {QTime(3, 0), QTime(6, 40), QTime(7, 0), QTime(12, 30), QTime(17, 20), QTime(18, 0), QTime(23, 59)}) {
+    SCOPED_TRACE(time.toString().toStdString());
+    session.BuildAnalysis(QDateTime(QDate(2016, 11, 21), time, Qt::UTC));
     ChogadiyaView chogadiya;
     HoraView hora;
     Show(chogadiya);
     Show(hora);
-    const QTime time(moment.hour, moment.minute);
     const bool before = PeriodClock::IsBeforeSunrise(sunrise, time);
     const QList<int> period = Marked(chogadiya, "lblChogMark", 16), lord = Marked(hora, "lblHoraMark", 24);
     EXPECT_EQ(period.size(), before ? 0 : 1);
@@ -216,17 +214,13 @@ TEST_F(PageViewsTest, ListIsWalkedByArrowsAndChosenByEnter) {
   Show(page);
   page.activateWindow();
   QSignalSpy chosen(&page, &ListView::Chosen);
-  const struct {
-    int from;
-    Qt::Key key;
-    int to;
-  } steps[] = {{0, Qt::Key_Right, 1},  {0, Qt::Key_Left, 0}, {0, Qt::Key_Down, 13}, {13, Qt::Key_Up, 0},
-               {23, Qt::Key_Down, 23}, {0, Qt::Key_End, 23}, {13, Qt::Key_Home, 0}};
-  for (const auto &step : steps) {
-    auto *from = page.findChild<QAbstractButton *>(QStringLiteral("flpChartList%1").arg(step.from));
-    from->setFocus();
-    QTest::keyClick(from, step.key);
-    EXPECT_EQ(page.focusWidget()->objectName(), QStringLiteral("flpChartList%1").arg(step.to)) << step.from;
+  const std::tuple<int, Qt::Key, int> steps[] = {{0, Qt::Key_Right, 1},  {0, Qt::Key_Left, 0}, {0, Qt::Key_Down, 13}, {13, Qt::Key_Up, 0},
+                                                 {23, Qt::Key_Down, 23}, {0, Qt::Key_End, 23}, {13, Qt::Key_Home, 0}};
+  for (const auto &[from, key, to] : steps) {
+    auto *at = page.findChild<QAbstractButton *>(QStringLiteral("flpChartList%1").arg(from));
+    at->setFocus();
+    QTest::keyClick(at, key);
+    EXPECT_EQ(page.focusWidget()->objectName(), QStringLiteral("flpChartList%1").arg(to)) << from;
   }
   QTest::keyClick(page.findChild<QWidget *>("flpChartList12"), Qt::Key_Return);
   QTest::keyClick(page.findChild<QWidget *>("flpChartList23"), Qt::Key_Space);
