@@ -128,6 +128,13 @@ TEST_F(SettingsTest, AnIniIsMadeWithItsFolderAndAFileInTheWayIsTold) {
   EXPECT_EQ(ReadWholeFile(At("fresh/EPHE/INIFILES/GENDAT.INI")), "[Orvani]\nSelLang=English\n");
   clsIni(paths).WriteIniString("A", "1", "B", "other.ini");
   EXPECT_EQ(clsIni(paths).GetIniString("a", "", "b", "OTHER.INI"), "1");
+  {
+    WriteWholeFile(paths.IniPath(), "words of no meaning\nand more\n");
+    const NoticeRecorder notices;
+    clsIni(paths).WriteIniString("SelLang", "0");
+    ASSERT_EQ(notices.Seen().size(), 1U) << "where it lies now is told";
+    EXPECT_TRUE(notices.Seen()[0].text.contains("GENDAT.INI.damaged")) << notices.Seen()[0].text;
+  }
 
   QDir().mkpath(At("blocked/EPHE/INIFILES/GENDAT.INI"));
   QString sentence;
