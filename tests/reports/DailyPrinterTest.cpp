@@ -28,29 +28,24 @@ class DailyPrinterTest : public ReportFixture {
 };
 
 TEST_F(DailyPrinterTest, PagesComeInTheirOrderWithHeaderAndFooter) {
-  struct Case {
-    QStringList keys;
-    std::vector<QString> titles;  // one a page
-    int lastPage;                 // where the printer stands at the end
-  };
-  const std::vector<Case> cases{
+  // The topics, the title of each page, and the page where the printer stands at the end.
+  const std::vector<std::tuple<QStringList, QStringList, int>> cases{
       {{}, {}, 1},
       {{"Mahadasha", "FrontPage"}, {"Birth Kundali", "Mahadasha"}, 3},
       {{"PlanetPos"}, {"Planets Today"}, 2},
       {{"MoreCharts", "Auspicious"}, {"Trishul Chakra", "Evil Muhurtas"}, 3},
       {{"Rashifala"}, {"Rashifala"}, 1},
   };
-  for (const Case &c : cases) {
+  for (const auto &[keys, titles, lastPage] : cases) {
     paper.Clear();
-    Print(c.keys);
-    SCOPED_TRACE(c.keys.join(",").toStdString());
-    for (size_t i = 0; i < c.titles.size(); ++i) {
-      const int page = static_cast<int>(i) + 1;
-      EXPECT_TRUE(paper.Find(c.titles[i], page)) << c.titles[i].toStdString();
+    Print(keys);
+    SCOPED_TRACE(keys.join(",").toStdString());
+    for (int page = 1; page <= titles.size(); ++page) {
+      EXPECT_TRUE(paper.Find(titles[page - 1], page)) << titles[page - 1].toStdString();
       EXPECT_TRUE(paper.Find("Anvik Telvar", page));
       EXPECT_TRUE(paper.Find(QStringLiteral("Page %1").arg(page), page));
     }
-    EXPECT_EQ(paper.page, c.lastPage);
+    EXPECT_EQ(paper.page, lastPage);
     EXPECT_EQ(paper.ended, 1);
   }
 }

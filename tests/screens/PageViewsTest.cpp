@@ -120,14 +120,11 @@ TEST_F(PageViewsTest, TrishulNamesAndMarksTheNumbers) {
 }
 
 TEST(PeriodClockTest, HoldsFromStartUpToEnd) {
-  const struct {
-    double start, end;
-    int hour, minute;
-    bool holds;
-  } cases[] = {{6.45, 8.15, 6, 45, true},   {6.45, 8.15, 8, 15, false},  {6.45, 8.15, 6, 44, false},  {23.30, 0.50, 0, 10, true},
-               {23.30, 0.50, 23, 30, true}, {23.30, 0.50, 0, 50, false}, {23.30, 24.50, 0, 49, true}, {9.0, 9.0, 9, 0, false}};
-  for (const auto &c : cases)
-    EXPECT_EQ(PeriodClock::Holds(c.start, c.end, QTime(c.hour, c.minute)), c.holds) << c.start << " " << c.hour << ":" << c.minute;
+  const std::tuple<double, double, int, int, bool> cases[] = {
+      {6.45, 8.15, 6, 45, true},   {6.45, 8.15, 8, 15, false},  {6.45, 8.15, 6, 44, false},  {23.30, 0.50, 0, 10, true},
+      {23.30, 0.50, 23, 30, true}, {23.30, 0.50, 0, 50, false}, {23.30, 24.50, 0, 49, true}, {9.0, 9.0, 9, 0, false}};
+  for (const auto &[start, end, hour, minute, holds] : cases)
+    EXPECT_EQ(PeriodClock::Holds(start, end, QTime(hour, minute)), holds) << start << " " << hour << ":" << minute;
   // Half minutes too are taken to the minute that stands on the page.
   for (int thousandth = 0; thousandth < 600; thousandth += 5) {
     const double clock = 6 + thousandth / 1000.0;
