@@ -127,22 +127,20 @@ TEST(KundaliModel, AStyleLeavesWhatItDoesNotSet) {
   constexpr const char *Four = "1,,,4,,,7,,,10,,";
   constexpr const char *None = ",,,,,,,,,,,";
   constexpr int Hide = -1;  // not a style: MakeHouseInvisible
-  const struct {
-    std::vector<int> steps;
-    const char *shown;
-    bool masks;  // the first number's box
-  } cases[] = {{{}, All, false},        {{1}, Four, true},        {{2}, All, false},           {{1, 2}, Four, true},
-               {{1, 2, 0}, All, false}, {{1, 0, 2}, All, false},  {{Hide}, None, false},       {{Hide, 0}, None, false},
-               {{Hide, 1}, None, true}, {{Hide, 2}, None, false}, {{1, Hide, 0}, None, false}, {{1, 7}, Four, true}};
-  for (const auto &c : cases) {
+  // The steps, the numbers that show then, and whether the first one's box masks what lies below.
+  const std::tuple<std::vector<int>, const char *, bool> cases[] = {
+      {{}, All, false},        {{1}, Four, true},        {{2}, All, false},           {{1, 2}, Four, true},
+      {{1, 2, 0}, All, false}, {{1, 0, 2}, All, false},  {{Hide}, None, false},       {{Hide, 0}, None, false},
+      {{Hide, 1}, None, true}, {{Hide, 2}, None, false}, {{1, Hide, 0}, None, false}, {{1, 7}, Four, true}};
+  for (const auto &[steps, shown, masks] : cases) {
     KundaliModel model;
-    for (const int step : c.steps)
+    for (const int step : steps)
       if (step == Hide)
         model.MakeHouseInvisible();
       else
         model.SetChartStyle(step);
-    EXPECT_EQ(ShownNumbers(model), c.shown) << testing::PrintToString(c.steps);
-    EXPECT_EQ(model.lblHouseNo(0).opaque, c.masks) << testing::PrintToString(c.steps);
+    EXPECT_EQ(ShownNumbers(model), shown) << testing::PrintToString(steps);
+    EXPECT_EQ(model.lblHouseNo(0).opaque, masks) << testing::PrintToString(steps);
   }
 }
 

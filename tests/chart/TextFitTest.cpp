@@ -38,12 +38,7 @@ std::string LinesOf(const FittedText &text) {
 }
 
 TEST(TextFit, CaptionsWrapAtBlanksAndShrinkNoFurtherThanTheyMust) {
-  const struct {
-    const char *caption;
-    QSizeF room;
-    const char *lines;
-    int size;
-  } cases[] = {
+  const std::tuple<const char *, QSizeF, const char *, int> cases[] = {
       {"", {50, 50}, "", 0},
       {"Su ", {50, 50}, "Su", 10},
       {"Su Mo  Ma ", {25, 50}, "Su Mo/Ma", 10},                  // 25 is just two words
@@ -52,10 +47,10 @@ TEST(TextFit, CaptionsWrapAtBlanksAndShrinkNoFurtherThanTheyMust) {
       {"Mercury ", {30, 50}, "Mercury", 8},                      // the longest word rules, below the smallest size if need be
       {"Su Mo Ma Me Ju Ve ", {24, 18}, "Su Mo Ma/Me Ju Ve", 6},  // never cut, never dropped
   };
-  for (const auto &c : cases) {
-    const FittedText fitted = FittedText::Fit(TaskOf(c.caption, QRectF(QPointF(100, 100), c.room)), GridMeasure());
-    EXPECT_EQ(LinesOf(fitted), c.lines) << c.caption;
-    EXPECT_EQ(fitted.pixelSize, c.size) << c.caption;
+  for (const auto &[caption, room, lines, size] : cases) {
+    const FittedText fitted = FittedText::Fit(TaskOf(caption, QRectF(QPointF(100, 100), room)), GridMeasure());
+    EXPECT_EQ(LinesOf(fitted), lines) << caption;
+    EXPECT_EQ(fitted.pixelSize, size) << caption;
   }
 }
 

@@ -25,11 +25,7 @@ class TextDbTest : public StoreFixture {
 
 TEST_F(TextDbTest, LooksUpByTableHeadAndCategoryWithoutRegardToCase) {
   StoreTextDb texts(Database::OpenDatabase(MakeTexts(), Database::Mode::ReadOnly));
-  const struct {
-    const char *table, *head, *category;
-    bool found, isNull;
-    const char *val;
-  } cases[] = {
+  const std::tuple<const char *, const char *, const char *, bool, bool, const char *> cases[] = {
       {"CNVT", "1", "Gana", true, false, "Deva"},
       {"cnvt", "1", "RASHI", true, false, "Aries"},
       {"CNVT", "1", "", true, false, "Aries"},  // the first row in the order of the texts, not of the categories
@@ -40,11 +36,11 @@ TEST_F(TextDbTest, LooksUpByTableHeadAndCategoryWithoutRegardToCase) {
       {"Daily", "1", "", false, false, ""},
       {"CNVT", "O'Brien", "it's", false, false, ""},
   };
-  for (const auto &c : cases) {
-    const TextRow row = texts.Find(c.table, c.head, c.category);
-    EXPECT_EQ(row.found, c.found) << c.table << ' ' << c.head << ' ' << c.category;
-    EXPECT_EQ(row.isNull, c.isNull) << c.head;
-    EXPECT_EQ(row.val, c.val) << c.head;
+  for (const auto &[table, head, category, found, isNull, val] : cases) {
+    const TextRow row = texts.Find(table, head, category);
+    EXPECT_EQ(row.found, found) << table << ' ' << head << ' ' << category;
+    EXPECT_EQ(row.isNull, isNull) << head;
+    EXPECT_EQ(row.val, val) << head;
   }
   EXPECT_THROW(texts.Find("sqlite_master", "1", ""), StoreError);
   EXPECT_FALSE(texts.Find("CNVT", QString(), "Gen").found);
