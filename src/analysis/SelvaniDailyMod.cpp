@@ -128,6 +128,10 @@ std::optional<PlaceRecord> SelvaniDailyMod::StoredResidence(const QString &name)
 }
 
 QDateTime SelvaniDailyMod::BuildAnalysis(const QDateTime &moment) {
+  return BuildAnalysisAt(residenceByHand ? residenceByHand : StoredResidence(BirthChart().clsPerson().Name()), moment);
+}
+
+QDateTime SelvaniDailyMod::BuildAnalysisAt(const std::optional<PlaceRecord> &residence, const QDateTime &moment) {
   const clsPerson &birth = BirthChart().clsPerson();
   auto session = std::make_unique<clsSelvaniDaily>(settings);
   session->TodayChart.setTextDB(stores.words, stores.personDb);
@@ -135,7 +139,6 @@ QDateTime SelvaniDailyMod::BuildAnalysis(const QDateTime &moment) {
   person.SetName(birth.Name());
   person.SetBirthDate(moment);
   person.SetSex(birth.Sex());
-  const std::optional<PlaceRecord> residence = residenceByHand ? residenceByHand : StoredResidence(birth.Name());
   if (residence) {
     person.SetPLOB(residence->City);
     SetPlace(person, *residence, DecimalGmtDiff(residence->GMTDIFF));

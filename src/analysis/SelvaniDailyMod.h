@@ -46,6 +46,8 @@ class SelvaniDailyMod {
   // Makes the chart of the moment (seconds are dropped) at the person's residence, or at the birth place where no
   // residence is stored, and returns the moment. Throws UsageError before a person is loaded.
   QDateTime BuildAnalysis(const QDateTime &moment);
+  // The same at the birth place, whatever residence is stored.
+  QDateTime BuildAnalysisAtBirthPlace(const QDateTime &moment) { return BuildAnalysisAt(std::nullopt, moment); }
 
   // Another language: the birth chart keeps the names that it has fetched, the analysis chart is built anew.
   void ChangeLanguage(std::shared_ptr<TextDb> words);
@@ -66,6 +68,7 @@ class SelvaniDailyMod {
 
  private:
   bool LoadBirth(const QString &name);
+  QDateTime BuildAnalysisAt(const std::optional<PlaceRecord> &residence, const QDateTime &moment);
   std::optional<PlaceRecord> StoredResidence(const QString &name) const;
 
   UserSettings &settings;

@@ -456,8 +456,9 @@ void frmMain::Load() {
   MakePages();
   LoadLanguages();
   SelectLanguage();
+  CheckAyanamsha();
   SelectLastPerson();
-  session->BuildAnalysis(clock());
+  ShowFirstDay();
   StoresChanged();
   ShowPersonHeader();
   ChangeMouseIcons();
@@ -559,6 +560,33 @@ void frmMain::SelectLastPerson() {
   if (session->HasPerson() && !sampleShown) return;
   sampleShown = true;
   session->SetBirthPerson(SamplePerson());  // again after a change of settings too, which the birth chart has to follow
+}
+
+// A custom ayanamsha that no chart can be calculated with is told once and not of each birth, and leaves a screen to mend it on.
+void frmMain::CheckAyanamsha() {
+  try {
+    session->SetBirthPerson(SamplePerson());
+    sampleShown = true;
+  } catch (const Error &error) {
+    Notices::Show(
+        {Notice::Kind::Warning, QString(),
+         tr("The ayanamsha of the settings cannot be used. %1 The usual one holds until you choose another.").arg(error.Sentence())});
+    try {
+      settings.SetValue(SettingKeys::AyanType, QLatin1String(SettingKeys::AyanType.fallback));
+    } catch (const StoreError &) {
+      return;  // it holds for this run
+    }
+  }
+}
+
+// A residence that cannot be used must not keep the program from the screen on which it can be mended.
+void frmMain::ShowFirstDay() {
+  try {
+    session->BuildAnalysis(clock());
+  } catch (const StoreError &error) {
+    Notices::Show({Notice::Kind::Warning, QString(), tr("%1 The day is shown for the birth place.").arg(error.Sentence())});
+    session->BuildAnalysisAtBirthPlace(clock());
+  }
 }
 
 void frmMain::ChangeMouseIcons() {

@@ -89,7 +89,9 @@ class frmMain : public QMainWindow {
   void LoadLanguages();
   void SelectLanguage();
   void OnLanguageChosen(int index);
+  void CheckAyanamsha();
   void SelectLastPerson();
+  void ShowFirstDay();
   void ChangeMouseIcons();
   void ShowPersonHeader();
   void ShowMoment();

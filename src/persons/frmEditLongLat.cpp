@@ -15,6 +15,7 @@
 #include <QRadioButton>
 #include <QTabWidget>
 #include <QVBoxLayout>
+#include <cmath>
 #include <span>
 
 #include "content/Theme.h"
@@ -31,6 +32,7 @@ using namespace FormParts;
 namespace {
 
 constexpr double FarthestAngle = 180;
+constexpr double LargestAyanamsha = 360;
 
 struct Choice {
   const char *name;
@@ -88,6 +90,14 @@ double AngleNumber(const QString &text) {
   bool isNumber = false;
   const double number = (text.left(3) + QLatin1Char('.') + text.right(2)).toDouble(&isNumber);
   return isNumber ? number : 0;
+}
+
+bool IsAyanamsha(const QString &text) {
+  try {
+    return std::abs(TextToNumber(text, QString())) <= LargestAyanamsha;
+  } catch (const ConversionError &) {
+    return false;
+  }
 }
 
 }  // namespace
@@ -592,10 +602,8 @@ void frmEditLongLat::ShowOptions() {
 
 void frmEditLongLat::SaveOptions() {
   auto *fault = findChild<QLabel *>(QStringLiteral("fault_txtCustAyan"));
-  try {
-    TextToNumber(txtCustAyan->text(), tr("custom ayanamsha"));
-  } catch (const ConversionError &) {
-    Say(*fault, tr("Please write degrees as a decimal number, as 23.50."));
+  if (!IsAyanamsha(txtCustAyan->text())) {
+    Say(*fault, tr("Please write degrees as a decimal number up to 360, as 23.50."));
     return;
   }
   std::vector<UserSettings::Change> changes{{SettingKeys::DayDivisions, dayDivisions->checkedId()},

@@ -183,7 +183,7 @@ void ChartOutput::DrawPDFKundli(PdfBox &pdf, const ChartLayout &chart, const QSi
   const auto atY = [y](double twips) { return qRound(twips / TwipsPerUnit + y); };
   Walk walk;
   walk.line = [&](const QLineF &line) {
-    pdf.SetColour(Rgb(parts.borderColor));
+    pdf.SetColour(Rgb(parts.lineColor));
     pdf.SetCurrent(atX(line.x1()), atY(line.y1()));
     pdf.LineTo(atX(line.x2()), atY(line.y2()));
   };

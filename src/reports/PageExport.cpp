@@ -10,8 +10,21 @@
 #include "platform/gui/QtPrinterService.h"
 #include "reports/PdfDocumentInfo.h"
 #include "reports/ScreenForm.h"
+#include "reports/TextSheets.h"
 #include "reports/clsPDFExporter.h"
 #include "reports/clsPrintMaker.h"
+
+namespace {
+
+bool PrintSheets(const std::vector<FormPage> &sheets, PrinterService &service) {
+  for (const FormPage &sheet : sheets) {
+    if (&sheet != &sheets.front()) service.NewPage();
+    if (!clsPrintMaker(service).PrintForm(sheet)) return false;
+  }
+  return true;
+}
+
+}  // namespace
 
 void PageExport::SavePdf(QWidget &page, const QString &path, const QString &personName, const QString &makerAddress) {
   QtPdfBox pdf;
@@ -27,7 +40,7 @@ bool PageExport::Print(QWidget &page, QPrinter &printer) {
   printer.setPageOrientation(form.landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
   QtPrinterService service(printer);
   service.SetLandscape(form.landscape);
-  const bool printed = clsPrintMaker(service).PrintForm(form);
+  const bool printed = PrintSheets(TextSheets(form, service), service);
   if (printed)
     service.EndDoc();
   else

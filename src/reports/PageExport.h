@@ -14,8 +14,8 @@ namespace PageExport {
 // `personName` heads the pages of running text.
 void SavePdf(QWidget &page, const QString &path, const QString &personName, const QString &makerAddress);
 
-// Prints the page as it stands, the paper turned as suits it. A failure is told in a message; false then. Pages of running text
-// print what they hold besides the text.
+// Prints the page as it stands, the paper turned as suits it; running text takes as many sheets as it needs. A failure is told in a
+// message; false then.
 bool Print(QWidget &page, QPrinter &printer);
 
 }  // namespace PageExport

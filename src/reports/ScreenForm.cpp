@@ -18,6 +18,8 @@ namespace {
 
 constexpr double TwipsPerPixel = 15;  // a screen pixel is a 96th of an inch
 constexpr double SheetLong = 16838, SheetShort = 11906, Margin = 720;
+// Running text stands between these edges, below a head with the person's name and the program's mark.
+constexpr double TextLeft = 1502, TextWidth = 8902, BelowPageHead = 1700;
 constexpr int PictureScale = 3;
 constexpr double FullSizeChart = 320;  // pixels
 
@@ -32,12 +34,17 @@ class Walk {
     QRect whole;
     Measure(page, whole);
     whole = whole.united(QRect(0, 0, 1, 1));
-    form.landscape = whole.width() > whole.height();
-    const double across = (form.landscape ? SheetLong : SheetShort) - 2 * Margin;
+    // Running text flows down upright sheets, whatever the shape of the window; only what stands above it keeps its place.
+    const QList<QTextEdit *> texts = page.findChildren<QTextEdit *>();
+    const bool isText = std::any_of(texts.begin(), texts.end(), [this](QTextEdit *text) { return IsText(*text); });
+    form.landscape = !isText && whole.width() > whole.height();
+    const double across = isText ? TextWidth : (form.landscape ? SheetLong : SheetShort) - 2 * Margin;
     const double down = (form.landscape ? SheetShort : SheetLong) - 2 * Margin;
-    twips = std::min({TwipsPerPixel, across / whole.width(), down / whole.height()});
+    twips = std::min(TwipsPerPixel, across / whole.width());
+    if (!isText) twips = std::min(twips, down / whole.height());
     origin = whole.topLeft();
-    left = Margin + (across - whole.width() * twips) / 2;
+    left = (isText ? TextLeft : Margin) + (across - whole.width() * twips) / 2;
+    top = isText ? BelowPageHead : Margin;
   }
 
   void Over(QWidget &widget) {
@@ -58,6 +65,8 @@ class Walk {
       Measure(*part, whole);
     }
   }
+
+  bool IsText(const QTextEdit &edit) const { return edit.isVisibleTo(&page) && !edit.document()->isEmpty(); }
 
   static bool IsControl(const QWidget &part) {
     return qobject_cast<const QAbstractButton *>(&part) || qobject_cast<const QAbstractSlider *>(&part) || part.inherits("QScrollBar") ||
@@ -81,7 +90,7 @@ class Walk {
     FormItem item;
     item.typeName = QLatin1String(type);
     item.Left = left + at.x();
-    item.Top = Margin + at.y();
+    item.Top = top + at.y();
     item.Width = part.width() * twips;
     item.Height = part.height() * twips;
     return item;
@@ -184,7 +193,7 @@ class Walk {
 
   void AddText(const QTextEdit &edit) {
     const QTextDocument *document = edit.document();
-    if (document->isEmpty()) return;
+    if (!IsText(edit)) return;
     FormItem item = Item("TXTextControl", edit);
     struct Line {
       int start;
@@ -200,7 +209,8 @@ class Walk {
       made.bold = font.bold();
       made.italic = font.italic();
       made.underline = font.underline();
-      lines.push_back({static_cast<int>(item.RichText.Text.size()), {made, 0}});
+      const unsigned colour = format.foreground().style() == Qt::NoBrush ? 0 : OnPaper(format.foreground().color());
+      lines.push_back({static_cast<int>(item.RichText.Text.size()), {made, colour}});
       item.RichText.Text += block.text() + QLatin1Char('\n');
     }
     item.RichText.FormatAt = [lines](int start) {
@@ -209,7 +219,6 @@ class Walk {
         if (line.start <= start) format = line.format;
       return format;
     };
-    form.landscape = false;
     form.items.push_back(item);
   }
 
@@ -225,7 +234,7 @@ class Walk {
   QWidget &page;
   FormPage &form;
   double twips = TwipsPerPixel;
-  double left = Margin;
+  double left = Margin, top = Margin;
   QPoint origin;
 };
 

@@ -147,22 +147,23 @@ void clsPDFExporter::ExportText(const FormItem &control) {
   const QString &text = control.RichText.Text;
   qsizetype start = 0;
   for (qsizetype end = text.indexOf(QLatin1Char('\n')); end >= 0; end = text.indexOf(QLatin1Char('\n'), start)) {
+    FormText::Format format;
     if (control.RichText.FormatAt) {
-      const FormText::Format format = control.RichText.FormatAt(static_cast<int>(start));
+      format = control.RichText.FormatAt(static_cast<int>(start));
       SetFont(format.font);
-      pdfBoxy.SetColour(format.ForeColor);
     }
     QString line = text.mid(start, end - start);
     if (line.endsWith(QLatin1Char('\r'))) line.chop(1);
-    WriteWrapped(line);
+    WriteWrapped(line, format.ForeColor);
     start = end + 1;
   }
   pdfBoxy.SetColour(0);
 }
 
-void clsPDFExporter::WriteWrapped(const QString &text) {
+void clsPDFExporter::WriteWrapped(const QString &text, unsigned colour) {
   QString line;
   const auto flush = [&] {
+    pdfBoxy.SetColour(colour);  // each time: the head of a new page is black
     pdfBoxy.SetCurrent(TextLeft, pdfBoxy.CurrentY());
     pdfBoxy.TextLine(line.trimmed(), PdfBox::AlignLeft);
     line.clear();

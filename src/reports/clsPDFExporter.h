@@ -43,7 +43,7 @@ class clsPDFExporter {
   void ExportText(const FormItem &control);
   void PageHead();
   void AutoNewPage();
-  void WriteWrapped(const QString &text);
+  void WriteWrapped(const QString &text, unsigned colour);
   void SetFont(PrintFont font);
 
   PdfBox &pdfBoxy;

@@ -8,6 +8,7 @@
 #include <QPrinter>
 #include <QTemporaryDir>
 #include <QTextEdit>
+#include <algorithm>
 #include <cmath>
 
 #include "chart/Kundali.h"
@@ -16,6 +17,7 @@
 #include "reports/PageExport.h"
 #include "reports/RecordingPrinter.h"
 #include "reports/ScreenForm.h"
+#include "reports/TextSheets.h"
 #include "reports/clsPDFExporter.h"
 #include "reports/clsPrintMaker.h"
 
@@ -243,12 +245,29 @@ TEST(ScreenForm, TakesLabelsChartsAndTextsFromAWidgetPage) {
   for (const FormItem &item : form.items) {
     types << item.typeName;
     EXPECT_GE(item.Left, 0);
-    EXPECT_LE(item.Left + item.Width, 16838) << item.typeName.toStdString();
-    EXPECT_LE(item.Top + item.Height, 11906);
+    EXPECT_LE(item.Left + item.Width, 11906) << item.typeName.toStdString();
+    EXPECT_GE(item.Top, 1600) << "below the head";
   }
+  EXPECT_FALSE(form.landscape) << "running text goes on upright sheets";
   ASSERT_EQ(types, QStringList({"Label", "Kundali", "TXTextControl"}));
   EXPECT_EQ(form.items[0].Caption, "Tithi");
   EXPECT_EQ(form.items[2].RichText.Text, "one\ntwo\n");
+
+  text->setPlainText(QStringLiteral("word ").repeated(3000) + "\nlast");
+  RecordingPrinter printer;
+  QString printed;
+  const std::vector<FormPage> sheets = TextSheets(ScreenForm(page), printer);
+  EXPECT_GT(sheets.size(), 1u);
+  for (const FormPage &sheet : sheets) {
+    EXPECT_EQ(&sheet == &sheets.front(), std::any_of(sheet.items.begin(), sheet.items.end(),
+                                                     [](const FormItem &item) { return item.typeName == QLatin1String("Kundali"); }));
+    for (const FormItem &item : sheet.items) {
+      EXPECT_LE(item.Top + item.Height, 16838 - 720);
+      if (item.typeName == QLatin1String("Label")) printed += item.Caption + ' ';
+    }
+  }
+  EXPECT_EQ(printed.count("word"), 3000);
+  EXPECT_TRUE(printed.endsWith("last "));
 }
 
 }  // namespace

@@ -175,9 +175,11 @@ TEST_F(EditLongLat, OptionsAndDetailsAreKept) {
   EXPECT_TRUE(Find<QAbstractButton>("optDivisionsHouse")->isChecked() && Find<QAbstractButton>("optSunriseCentre")->isChecked());
   Click("optDivisionsExact");
   Click("optSunriseLimb");
-  Set("txtCustAyan", "23,5");
-  Click("cmdSaveAyanKundStyle");
-  EXPECT_EQ(settings.IntValue(SettingKeys::AyanType), 15) << "unreadable degrees are not saved";
+  for (const char *degrees : {"23,5", "99999999999"}) {
+    Set("txtCustAyan", degrees);
+    Click("cmdSaveAyanKundStyle");
+    EXPECT_EQ(settings.IntValue(SettingKeys::AyanType), 15) << "no chart can be calculated with " << degrees;
+  }
   Set("txtCustAyan", "23.50");
   Click("cmdSaveAyanKundStyle");
   EXPECT_EQ(settings.IntValue(SettingKeys::AyanType), 13);

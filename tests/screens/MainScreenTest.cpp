@@ -269,6 +269,27 @@ TEST_F(MainScreen, AResidenceThatCannotBeUsedLeavesAWholeBirth) {
   EXPECT_EQ(screen->Session().DashaCalc().Level(), 2);
 }
 
+// No fault of a stored value may stand between the user and the screen on which it is mended.
+TEST_F(MainScreen, StartsWithAResidenceOrAnAyanamshaThatCannotBeUsed) {
+  const auto residences = Database::OpenDatabase(data.Paths().DailyPath());
+  residences->Execute("DELETE FROM Person");
+  residences->Execute("INSERT INTO Person (Name, City, GMTDIFF, LatDeg, LongDeg) VALUES ('Anvik Telvar', 'Nowhere', '5.30', 120, 74)");
+  settings.SetIntValue(SettingKeys::AyanType, 13);
+  for (const char *ayanamsha : {"23.5", "99999999999", "words"}) {
+    notices.clear();
+    settings.SetValue(SettingKeys::CustAyan, ayanamsha);
+    const bool isUsable = ayanamsha == std::string("23.5");
+    Open();
+    ASSERT_EQ(notices.size(), isUsable ? 1 : 2) << notices.join('\n').toStdString();
+    EXPECT_TRUE(notices.last().contains("120")) << notices.last().toStdString();
+    EXPECT_EQ(settings.IntValue(SettingKeys::AyanType), isUsable ? 13 : 1);
+    EXPECT_EQ(settings.Value(SettingKeys::CustAyan), ayanamsha) << "it stays to be mended";
+    EXPECT_EQ(Caption("lblPersonName"), "Anvik Telvar");
+    EXPECT_TRUE(Caption("lblNowIn").contains("Agra")) << "the birth place";
+    settings.SetIntValue(SettingKeys::AyanType, 13);
+  }
+}
+
 TEST_F(MainScreen, AsksBeforeItEnds) {
   Open();
   Press("flpExit");
