@@ -583,7 +583,7 @@ void frmMain::CheckAyanamsha() {
 void frmMain::ShowFirstDay() {
   try {
     session->BuildAnalysis(clock());
-  } catch (const StoreError &error) {
+  } catch (const Error &error) {
     Notices::Show({Notice::Kind::Warning, QString(), tr("%1 The day is shown for the birth place.").arg(error.Sentence())});
     session->BuildAnalysisAtBirthPlace(clock());
   }
