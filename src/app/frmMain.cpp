@@ -788,12 +788,12 @@ void frmMain::closeEvent(QCloseEvent *event) {
 
 void frmMain::SavePosition() {
   if (isMinimized()) return;
-  settings.SetIntValue(SettingKeys::WindowState, isMaximized() ? 2 : 0);
-  if (isMaximized() || isFullScreen()) return;
-  settings.SetIntValue(SettingKeys::TopPos, y());
-  settings.SetIntValue(SettingKeys::LeftPos, x());
-  settings.SetIntValue(SettingKeys::Width, width());
-  settings.SetIntValue(SettingKeys::Height, height());
+  std::vector<UserSettings::Change> changes{{SettingKeys::WindowState, isMaximized() ? 2 : 0}};
+  if (!isMaximized() && !isFullScreen())
+    changes.insert(
+        changes.end(),
+        {{SettingKeys::TopPos, y()}, {SettingKeys::LeftPos, x()}, {SettingKeys::Width, width()}, {SettingKeys::Height, height()}});
+  settings.SetAll(changes);
 }
 
 bool frmMain::event(QEvent *event) {
