@@ -162,9 +162,8 @@ void OverviewView::Fill(SelvaniDailyMod &session) {
   const OverviewPage page = session.FillMainPage();
   FillChart(*kunBirth, page.kunBirth, session.Settings());
   FillChart(*kunTransit, page.kunTransit, session.Settings());
-  for (const auto &[element, caption] : page.Captions()) {
+  for (const auto &[element, caption] : page.Captions())
     if (QLabel *label = labels.value(element)) label->setText(caption);
-  }
   lblTodPanchang->setText(page.lblTodPanchang);
   exactHead->setText(page.lblExactBrief);
   exactHead->setToolTip(page.lblExactHead);
