@@ -235,9 +235,9 @@ TEST_F(StudyReportTest, AChartWithManyAspectsKeepsToItsPages) {
                 .GMTDIFF = "-5.00",
                 .LatDeg = 12,
                 .LatMT = 10,
+                .TextNS = "S",
                 .LongDeg = 77,
                 .LongMT = 20,
-                .TextNS = "S",
                 .TextEW = "W"};
   session.SetBirthPerson(lima);
   session.BuildAnalysis(QDateTime(QDate(2026, 12, 21), QTime(9, 0), Qt::UTC));

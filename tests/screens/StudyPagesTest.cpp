@@ -54,8 +54,8 @@ BirthRecord BornAt(const char *city, int latitude, const char *northSouth, int l
   record.Minutes = 40;
   record.Sex = 1;
   record.TimeCorr = QStringLiteral("+01.00");
-  record.place = {QLatin1String(city),    {}, QLatin1String(zone), latitude, 10, longitude, 20, QLatin1String(northSouth),
-                  QLatin1String(eastWest)};
+  record.place = {QLatin1String(city), {}, QLatin1String(zone),    latitude, 10, QLatin1String(northSouth),
+                  longitude,           20, QLatin1String(eastWest)};
   return record;
 }
 
