@@ -9,6 +9,7 @@
 #include <cstdio>
 #include <stdexcept>
 
+#include "content/PageNumber.h"
 #include "content/contentManager.h"
 
 namespace {
@@ -79,6 +80,6 @@ void OpenWindow::Paint() {
 std::vector<int> OpenWindow::AllPages() {
   std::vector<int> pages;
   for (const contentManager::Row &row : contentManager::Table()) pages.push_back(row.page);
-  pages.push_back(contentManager::HelpPage);
+  pages.push_back(PageNumber::Help);
   return pages;
 }

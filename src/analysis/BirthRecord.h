@@ -4,13 +4,7 @@
 
 #include <QString>
 
-// A place on the earth with its clock, as the stores keep it.
-struct PlaceRecord {
-  QString City, Country;
-  QString GMTDIFF;  // hours.minutes: "5.30" is five hours thirty minutes east
-  int LatDeg = 0, LatMT = 0, LongDeg = 0, LongMT = 0;
-  QString TextNS, TextEW;
-};
+#include "persons/PlaceRecord.h"
 
 // A person's birth as the store of persons keeps it.
 struct BirthRecord {

@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: AGPL-3.0-or-later
 #include "analysis/PredictionPages.h"
 
+#include "content/PageNumber.h"
 #include "engine/clsPlanets.h"
 #include "panchang/DailyYogas.h"
 
 namespace {
 
 constexpr int Ascendant = 0;
-constexpr int YogaPage = 23;
 
 QString Fetch(const clsPlanets &words, const PredictionKeys::Key &key) { return words.GetHeadValue(key.kind, key.head, key.category); }
 
@@ -16,9 +16,14 @@ QString Fetch(const clsPlanets &words, const PredictionKeys::Key &key) { return 
 
 const std::vector<PredictionFamily> &PredictionFamilies() {
   static const std::vector<PredictionFamily> families{
-      {28, "weekday", "WeekdayResult"},      {25, "tithi", "TithiResult"},   {27, "nakshatra", "NakshatraResult"},
-      {24, "suryayoga", "SuryaYogaResults"}, {19, "rashifala", "Rashifala"}, {20, "moontransit", "MoonTransits"},
-      {21, "finance", "FinancialAnalysis"},  {15, "journey", "Journey"},
+      {PageNumber::WeekdayResult, "weekday", "WeekdayResult"},
+      {PageNumber::TithiResult, "tithi", "TithiResult"},
+      {PageNumber::NakshatraResult, "nakshatra", "NakshatraResult"},
+      {PageNumber::SuryaYogaResults, "suryayoga", "SuryaYogaResults"},
+      {PageNumber::Rashifala, "rashifala", "Rashifala"},
+      {PageNumber::MoonTransits, "moontransit", "MoonTransits"},
+      {PageNumber::FinancialAnalysis, "finance", "FinancialAnalysis"},
+      {PageNumber::Journey, "journey", "Journey"},
   };
   return families;
 }
@@ -26,16 +31,18 @@ const std::vector<PredictionFamily> &PredictionFamilies() {
 std::optional<PredictionKeys::Key> PredictionKeyOf(int page, const clsPlanets &birthChart, const clsPlanets &todayChart) {
   const int weekday = todayChart.clsPerson().WeekDayOfBirth();
   switch (page) {
-    case 15: return PredictionKeys::JourneyKey(weekday, clsPlanets::GetRashiElement(todayChart.PlanetRashiNum(Ascendant)));
-    case 19:
+    case PageNumber::Journey: return PredictionKeys::JourneyKey(weekday, clsPlanets::GetRashiElement(todayChart.PlanetRashiNum(Ascendant)));
+    case PageNumber::Rashifala:
       return PredictionKeys::RashifalaKey(todayChart.ConvertRashiEng(birthChart.RashiNum()),
                                           todayChart.ConvertRashiEng(todayChart.RashiNum()));
-    case 20: return PredictionKeys::MoonTransitKey(static_cast<int>(birthChart.PlanetSign(7)), static_cast<int>(todayChart.PlanetSign(7)));
-    case 21: return PredictionKeys::FinanceKey(weekday, todayChart.ConvertRashiEng(birthChart.PlanetSign(Ascendant)));
-    case 24: return PredictionKeys::SuryaYogaKey(todayChart.YogaNumber());
-    case 25: return PredictionKeys::TithiKey(DailyYogas::RunningTithi(todayChart.Tithi()));
-    case 27: return PredictionKeys::NakshatraKey(todayChart.Nakshatra());
-    case 28: return PredictionKeys::WeekdayKey(weekday);
+    case PageNumber::MoonTransits:
+      return PredictionKeys::MoonTransitKey(static_cast<int>(birthChart.PlanetSign(7)), static_cast<int>(todayChart.PlanetSign(7)));
+    case PageNumber::FinancialAnalysis:
+      return PredictionKeys::FinanceKey(weekday, todayChart.ConvertRashiEng(birthChart.PlanetSign(Ascendant)));
+    case PageNumber::SuryaYogaResults: return PredictionKeys::SuryaYogaKey(todayChart.YogaNumber());
+    case PageNumber::TithiResult: return PredictionKeys::TithiKey(DailyYogas::RunningTithi(todayChart.Tithi()));
+    case PageNumber::NakshatraResult: return PredictionKeys::NakshatraKey(todayChart.Nakshatra());
+    case PageNumber::WeekdayResult: return PredictionKeys::WeekdayKey(weekday);
     default: return std::nullopt;
   }
 }
@@ -70,7 +77,7 @@ QString SuryaYogaText(const clsPlanets &today, int yoga, const PrintMyText *prin
 }
 
 QString MoonTransitText(const clsPlanets &birthChart, const clsPlanets &todayChart) {
-  const std::optional<PredictionKeys::Key> key = PredictionKeyOf(20, birthChart, todayChart);
+  const std::optional<PredictionKeys::Key> key = PredictionKeyOf(PageNumber::MoonTransits, birthChart, todayChart);
   return Fetch(todayChart, *key);
 }
 
@@ -86,7 +93,7 @@ PredictionPage ShowYogas(const clsPlanets &todayChart, const PrintMyText *printi
 }
 
 PredictionPage FillPredictionPage(int page, const clsPlanets &birthChart, const clsPlanets &todayChart) {
-  if (page == YogaPage) return ShowYogas(todayChart);
+  if (page == PageNumber::YogaResults) return ShowYogas(todayChart);
   PredictionPage filled;
   const std::optional<PredictionKeys::Key> key = PredictionKeyOf(page, birthChart, todayChart);
   if (key) filled.AppendBody(Fetch(todayChart, *key));

@@ -25,14 +25,13 @@ struct PredictionPage {
 
 // A family of paragraphs that asks one key of a day.
 struct PredictionFamily {
-  int page;          // number of the screen page
+  int page;          // PageNumber of the screen page
   const char *name;  // "journey", as scripts name it
   const char *titleKey;
 };
 const std::vector<PredictionFamily> &PredictionFamilies();
 
-// The key that a page asks for: 15 journey, 19 Rashifala, 20 Moon transit, 21 finance, 24 surya yoga, 25 tithi,
-// 27 nakshatra, 28 weekday. None for another page and for a yoga number without a key.
+// The key that the page of a family asks for. None for another page and for a yoga number without a key.
 std::optional<PredictionKeys::Key> PredictionKeyOf(int page, const clsPlanets &birthChart, const clsPlanets &todayChart);
 
 // Takes a text to the paper as well.
@@ -51,5 +50,5 @@ QString MoonTransitText(const clsPlanets &birthChart, const clsPlanets &todayCha
 // A title and a paragraph for each muhurtha yoga that holds, in their order; nothing where none holds. Titles print bold.
 PredictionPage ShowYogas(const clsPlanets &todayChart, const PrintMyText *printing = nullptr);
 
-// The page as the screen shows it; 23 is the yogas.
+// The page of a family, or that of the yogas, as the screen shows it.
 PredictionPage FillPredictionPage(int page, const clsPlanets &birthChart, const clsPlanets &todayChart);

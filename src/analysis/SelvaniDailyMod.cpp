@@ -11,13 +11,6 @@ namespace {
 
 QString tr(const char *text) { return QCoreApplication::translate("SelvaniDailyMod", text); }
 
-PlaceRecord ReadPlace(const Recordset &row) {
-  const auto text = [&](const char *column) { return row.Field(QLatin1String(column)).toString(); };
-  const auto whole = [&](const char *column) { return row.Field(QLatin1String(column)).toInt(); };
-  return {text("City"),     text("Country"), text("GMTDIFF"), whole("LatDeg"), whole("LatMT"),
-          whole("LongDeg"), whole("LongMT"), text("TextNS"),  text("TextEW")};
-}
-
 BirthRecord ReadBirth(const Recordset &row) {
   const auto whole = [&](const char *column) { return row.Field(QLatin1String(column)).toInt(); };
   BirthRecord record;
@@ -29,7 +22,7 @@ BirthRecord ReadBirth(const Recordset &row) {
   record.Minutes = whole("Minutes");
   record.AMPM = whole("AMPM");
   record.Sex = whole("Sex");
-  record.place = ReadPlace(row);
+  record.place = ReadPlaceRecord(row);
   return record;
 }
 
@@ -118,7 +111,7 @@ std::optional<PlaceRecord> SelvaniDailyMod::StoredResidence(const QString &name)
   Recordset found = stores.dailyDb->OpenRecordset(QStringLiteral("SELECT * FROM PERSON WHERE NAME = ?"), {name});
   if (found.RecordCount() == 0) return std::nullopt;
   found.MoveFirst();
-  PlaceRecord place = ReadPlace(found);
+  PlaceRecord place = ReadPlaceRecord(found);
   try {
     CheckPlace(place);
   } catch (const ConversionError &error) {
@@ -146,7 +139,7 @@ QDateTime SelvaniDailyMod::BuildAnalysisAt(const std::optional<PlaceRecord> &res
     person.SetPLOB(birth.PLOB());
     SetPlace(
         person,
-        {birth.PLOB(), birth.Country(), {}, birth.LatDeg(), birth.LatMT(), birth.LongDeg(), birth.LongMT(), birth.TextNS(), birth.TextEW()},
+        {birth.PLOB(), birth.Country(), {}, birth.LatDeg(), birth.LatMT(), birth.TextNS(), birth.LongDeg(), birth.LongMT(), birth.TextEW()},
         birth.GMTDIFF());
   }
   session->TodayChart.Calculate();

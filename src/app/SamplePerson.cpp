@@ -12,7 +12,7 @@ BirthRecord SamplePerson() {
   record.Minutes = 50;
   record.AMPM = 1;
   record.Sex = 1;
-  record.place = {QStringLiteral("Agra"), QStringLiteral("India"), QStringLiteral("5.30"), 27, 9, 78, 0,
-                  QStringLiteral("N"),    QStringLiteral("E")};
+  record.place = {QStringLiteral("Agra"), QStringLiteral("India"), QStringLiteral("5.30"), 27, 9, QStringLiteral("N"), 78, 0,
+                  QStringLiteral("E")};
   return record;
 }

@@ -11,6 +11,7 @@
 #include "app/MessageBoxes.h"
 #include "app/frmDate.h"
 #include "app/frmMain.h"
+#include "content/PageNumber.h"
 #include "content/contentManager.h"
 #include "content/frmSettings.h"
 #include "persons/frmEditLongLat.h"
@@ -62,17 +63,19 @@ int WriteScreens(const QString &folder, const AppPaths &paths, MessageBoxes &box
     const QString prefix = size.width == 1280 ? QString() : QStringLiteral("%1x%2-").arg(size.width).arg(size.height);
     for (const contentManager::Row &row : contentManager::Table()) {
       // The other sizes show the pages whose layout differs.
-      if (size.width != 1280 && (row.page == 7 || row.page == 8 || row.page == 10 || row.page > 22)) continue;
+      if (size.width != 1280 && (row.page == PageNumber::SunriseKundali || row.page == PageNumber::TransitKundali ||
+                                 row.page == PageNumber::TodayPlanets || row.page > PageNumber::EvilMuhurthas))
+        continue;
       screen.Pages().ShowPage(row.page);
       writer.Write(screen, prefix + QStringLiteral("page%1").arg(row.page, 2, 10, QLatin1Char('0')) + suffix);
     }
-    screen.Pages().ShowPage(contentManager::HelpPage);
+    screen.Pages().ShowPage(PageNumber::Help);
     writer.Write(screen, prefix + QStringLiteral("help") + suffix);
     if (size.width != 1280) continue;
     // The South drawing keeps the numbers of the style before it, so the North one comes between, as in most hands.
     for (const int style : {1, 0, 2}) {
       settings.SetIntValue(SettingKeys::KundStyle, style);
-      screen.Pages().ShowPage(6);
+      screen.Pages().ShowPage(PageNumber::BirthKundali);
       if (style == 0) continue;
       writer.Write(screen, QStringLiteral("page06-style%1").arg(style) + suffix);
     }

@@ -33,6 +33,7 @@
 #include "app/frmDate.h"
 #include "app/frmStatus.h"
 #include "chart/ImageButton.h"
+#include "content/PageNumber.h"
 #include "content/ShellFonts.h"
 #include "content/Skin.h"
 #include "content/Theme.h"
@@ -77,19 +78,41 @@
 
 namespace {
 
-constexpr int ChartListPage = 1, PredictionListPage = 2, CreditsPage = 5, OverviewPageNumber = 18;
-
 constexpr int LeastForAbove = 740;  // inner height, pixels, that leaves room for the dial above the rows of a narrow column
 
 // Index of a list entry and the page that it goes to.
 struct ListRow {
   int index, page;
 };
-constexpr std::array<ListRow, 11> ChartListRows{
-    {{0, 16}, {1, 22}, {12, 6}, {13, 11}, {14, 7}, {15, 12}, {16, 9}, {17, 10}, {18, 8}, {20, 17}, {23, 13}}};
-constexpr std::array<ListRow, 8> PredictionListRows{{{0, 28}, {1, 21}, {2, 15}, {3, 23}, {4, 25}, {5, 27}, {11, 19}, {12, 24}}};
+constexpr std::array<ListRow, 11> ChartListRows{{{0, PageNumber::Chowgadiya},
+                                                 {1, PageNumber::EvilMuhurthas},
+                                                 {12, PageNumber::BirthKundali},
+                                                 {13, PageNumber::VimshottariDasha},
+                                                 {14, PageNumber::SunriseKundali},
+                                                 {15, PageNumber::TrishulChakra},
+                                                 {16, PageNumber::BirthPlanets},
+                                                 {17, PageNumber::TodayPlanets},
+                                                 {18, PageNumber::TransitKundali},
+                                                 {20, PageNumber::HoraChart},
+                                                 {23, PageNumber::Panchang}}};
+constexpr std::array<ListRow, 8> PredictionListRows{{{0, PageNumber::WeekdayResult},
+                                                     {1, PageNumber::FinancialAnalysis},
+                                                     {2, PageNumber::Journey},
+                                                     {3, PageNumber::YogaResults},
+                                                     {4, PageNumber::TithiResult},
+                                                     {5, PageNumber::NakshatraResult},
+                                                     {11, PageNumber::Rashifala},
+                                                     {12, PageNumber::SuryaYogaResults}}};
 
-constexpr std::array<ListRow, 9> StudyListRows{{{0, 29}, {1, 30}, {2, 31}, {3, 32}, {4, 33}, {5, 34}, {6, 35}, {7, 36}, {8, 37}}};
+constexpr std::array<ListRow, 9> StudyListRows{{{0, PageNumber::DivisionalCharts},
+                                                {1, PageNumber::Ashtakavarga},
+                                                {2, PageNumber::Upagrahas},
+                                                {3, PageNumber::Aspects},
+                                                {4, PageNumber::BirthAttributes},
+                                                {5, PageNumber::DayScores},
+                                                {6, PageNumber::VakyaPositions},
+                                                {7, PageNumber::ExactDay},
+                                                {8, PageNumber::Month}}};
 
 // The order in which the lists show their entries.
 constexpr std::array ChartListOrder{12, 18, 14, 16, 17, 23, 13, 15, 0, 20, 1};
@@ -143,14 +166,14 @@ class StatusProgress : public ReportProgress {
 
 // The navigation row that leads to a page.
 const char *SectionOf(int page) {
-  if (page == OverviewPageNumber) return "fflpHome";
-  if (page == CreditsPage) return "flpCredits";
-  if (page == contentManager::HelpPage) return "flpHelp";
-  if (page == ChartListPage) return "flpCharts";
-  if (page == contentManager::StudyListPage) return "flpStudy";
+  if (page == PageNumber::TodayOverview) return "fflpHome";
+  if (page == PageNumber::Credits) return "flpCredits";
+  if (page == PageNumber::Help) return "flpHelp";
+  if (page == PageNumber::ChartList) return "flpCharts";
+  if (page == PageNumber::StudyList) return "flpStudy";
   for (const ListRow &row : StudyListRows)
     if (row.page == page) return "flpStudy";
-  if (page == PredictionListPage) return "flpPredictions";
+  if (page == PageNumber::PredictionList) return "flpPredictions";
   for (const ListRow &row : ChartListRows)
     if (row.page == page) return "flpCharts";
   return "flpPredictions";
@@ -362,7 +385,8 @@ void frmMain::AddRichText(int page) {
 void frmMain::AddPlanets() {
   auto *planets = new PlanetTableView(host);
   hostGrid->addWidget(planets, 0, 0);
-  for (const auto &[page, chart] : {std::pair(9, PlanetTableView::Chart::Birth), std::pair(10, PlanetTableView::Chart::Today)}) {
+  for (const auto &[page, chart] : {std::pair(PageNumber::BirthPlanets, PlanetTableView::Chart::Birth),
+                                    std::pair(PageNumber::TodayPlanets, PlanetTableView::Chart::Today)}) {
     const auto fill = [this, planets, which = chart] {
       planets->SetChart(which);
       planets->Fill(*session);
@@ -380,56 +404,59 @@ void frmMain::MakePages() {
   auto *charts =
       new ListView(QStringLiteral("picChartList"), QStringLiteral("flpChartList"), ListEntries(ChartListOrder, ChartListRows), host);
   connect(charts, &ListView::Chosen, this, [this](int index) { pages->ShowPage(PageOfChartList(index)); });
-  AddView(ChartListPage, charts);
+  AddView(PageNumber::ChartList, charts);
   auto *predictions = new ListView(QStringLiteral("picPrediList"), QStringLiteral("flpPrediList"),
                                    ListEntries(PredictionListOrder, PredictionListRows), host);
   connect(predictions, &ListView::Chosen, this, [this](int index) { pages->ShowPage(PageOfPredictionList(index)); });
-  AddView(PredictionListPage, predictions);
+  AddView(PageNumber::PredictionList, predictions);
 
   auto *study =
       new ListView(QStringLiteral("picStudyList"), QStringLiteral("flpStudyList"), ListEntries(StudyListOrder, StudyListRows), host);
   connect(study, &ListView::Chosen, this, [this](int index) { pages->ShowPage(PageOf(StudyListRows, index)); });
-  AddView(contentManager::StudyListPage, study);
-  AddView(29, new VargasView(host));
-  AddView(30, new AshtakavargaView(host));
-  AddView(31, new UpagrahasView(host));
-  AddView(32, new AspectsView(host));
-  AddView(33, new BirthAttributesView(host));
+  AddView(PageNumber::StudyList, study);
+  AddView(PageNumber::DivisionalCharts, new VargasView(host));
+  AddView(PageNumber::Ashtakavarga, new AshtakavargaView(host));
+  AddView(PageNumber::Upagrahas, new UpagrahasView(host));
+  AddView(PageNumber::Aspects, new AspectsView(host));
+  AddView(PageNumber::BirthAttributes, new BirthAttributesView(host));
   auto *scores = new ScoresView(host);
   connect(scores, &ScoresView::GoToDay, this,
           [this](const QDate &day) { ChangeMoment(QDateTime(day, session->AnalysisMoment().time(), Qt::UTC)); });
-  AddView(34, scores);
-  AddView(35, new VakyaView(host));
-  AddView(36, new ExactDayView(host));
+  AddView(PageNumber::DayScores, scores);
+  AddView(PageNumber::VakyaPositions, new VakyaView(host));
+  AddView(PageNumber::ExactDay, new ExactDayView(host));
   auto *month = new MonthView(host);
   connect(month, &MonthView::DayChosen, this, [this](const QDate &day) {
     ChangeMoment(QDateTime(day, session->AnalysisMoment().time(), Qt::UTC));
-    pages->ShowPage(36);
+    pages->ShowPage(PageNumber::ExactDay);
   });
-  AddView(37, month);
+  AddView(PageNumber::Month, month);
 
-  AddView(CreditsPage, new CreditsView(QCoreApplication::applicationVersion(), Maker::WebAddress, host));
-  AddView(contentManager::HelpPage, new HelpView(paths.Ephe(QStringLiteral("HELP/english.html")), host));
+  AddView(PageNumber::Credits, new CreditsView(QCoreApplication::applicationVersion(), Maker::WebAddress, host));
+  AddView(PageNumber::Help, new HelpView(paths.Ephe(QStringLiteral("HELP/english.html")), host));
   AddPlanets();
   auto *dasha = new DashaView(host);
   connect(dasha, &DashaView::GoToTree, this, &frmMain::OpenDashaTree);
   connect(dasha, &DashaView::StatusChanged, lblHint, &QLabel::setText);
-  AddView(11, dasha);
-  AddView(12, new TrishulView(paths, host));
-  AddView(13, new PanchangView(host));
-  AddView(16, new ChogadiyaView(host));
-  AddView(17, new HoraView(host));
-  AddView(OverviewPageNumber, new OverviewView(host));
-  AddView(22, new EvilMuhurthaView(host));
+  AddView(PageNumber::VimshottariDasha, dasha);
+  AddView(PageNumber::TrishulChakra, new TrishulView(paths, host));
+  AddView(PageNumber::Panchang, new PanchangView(host));
+  AddView(PageNumber::Chowgadiya, new ChogadiyaView(host));
+  AddView(PageNumber::HoraChart, new HoraView(host));
+  AddView(PageNumber::TodayOverview, new OverviewView(host));
+  AddView(PageNumber::EvilMuhurthas, new EvilMuhurthaView(host));
 
   largeChart = new LargeChartView(host);
   hostGrid->addWidget(largeChart, 0, 0);
-  AddLargeChart(6, 1);
-  AddLargeChart(8, 2);
-  AddLargeChart(7, 3);
+  AddLargeChart(PageNumber::BirthKundali, 1);
+  AddLargeChart(PageNumber::TransitKundali, 2);
+  AddLargeChart(PageNumber::SunriseKundali, 3);
   richText = new RichTextPage(host);
   hostGrid->addWidget(richText, 0, 0);
-  for (const int page : {15, 19, 20, 21, 23, 24, 25, 27, 28}) AddRichText(page);
+  for (const int page :
+       {PageNumber::Journey, PageNumber::Rashifala, PageNumber::MoonTransits, PageNumber::FinancialAnalysis, PageNumber::YogaResults,
+        PageNumber::SuryaYogaResults, PageNumber::TithiResult, PageNumber::NakshatraResult, PageNumber::WeekdayResult})
+    AddRichText(page);
 }
 
 void frmMain::MakeKeys() {
@@ -444,7 +471,7 @@ void frmMain::MakeKeys() {
   key(QKeySequence(Qt::Key_F5), [this] { pages->ShowAgain(); });
   key(QKeySequence(Qt::CTRL | Qt::Key_K), [this] { OpenPeople(); });
   key(QKeySequence(Qt::CTRL | Qt::Key_D), [this] { OpenDate(); });
-  key(QKeySequence(Qt::ALT | Qt::Key_Home), [this] { pages->ShowPage(OverviewPageNumber); });
+  key(QKeySequence(Qt::ALT | Qt::Key_Home), [this] { pages->ShowPage(PageNumber::TodayOverview); });
   key(QKeySequence(Qt::CTRL | Qt::Key_Left), [this] { ChangeMoment(session->AnalysisMoment().addDays(-1)); });
   key(QKeySequence(Qt::CTRL | Qt::Key_Right), [this] { ChangeMoment(session->AnalysisMoment().addDays(1)); });
 }
@@ -463,7 +490,7 @@ void frmMain::Load() {
   ShowPersonHeader();
   ChangeMouseIcons();
   PlaceContent();
-  pages->ShowPage(OverviewPageNumber);
+  pages->ShowPage(PageNumber::TodayOverview);
 }
 
 void frmMain::OpenDatabases() {
@@ -655,12 +682,12 @@ void frmMain::CalculateAnew() {
 // --- actions --------------------------------------------------------------------------------------------------------------
 
 void frmMain::OnNavigation(const QString &name) {
-  if (name == QLatin1String("fflpHome")) pages->ShowPage(OverviewPageNumber);
-  if (name == QLatin1String("flpCharts")) pages->ShowPage(ChartListPage);
-  if (name == QLatin1String("flpPredictions")) pages->ShowPage(PredictionListPage);
+  if (name == QLatin1String("fflpHome")) pages->ShowPage(PageNumber::TodayOverview);
+  if (name == QLatin1String("flpCharts")) pages->ShowPage(PageNumber::ChartList);
+  if (name == QLatin1String("flpPredictions")) pages->ShowPage(PageNumber::PredictionList);
   if (name == QLatin1String("flpPerson")) OpenPersonManager();
-  if (name == QLatin1String("flpStudy")) pages->ShowPage(contentManager::StudyListPage);
-  if (name == QLatin1String("flpCredits")) pages->ShowPage(CreditsPage);
+  if (name == QLatin1String("flpStudy")) pages->ShowPage(PageNumber::StudyList);
+  if (name == QLatin1String("flpCredits")) pages->ShowPage(PageNumber::Credits);
   if (name == QLatin1String("flpSettings")) OpenSettings();
   if (name == QLatin1String("flpWebsite")) OpenWebsite();
   if (name == QLatin1String("flpHelp")) OpenHelp();
@@ -764,7 +791,7 @@ void frmMain::OpenDashaTree() {
   tree.exec();
 }
 
-void frmMain::OpenHelp() { pages->ShowPage(contentManager::HelpPage); }
+void frmMain::OpenHelp() { pages->ShowPage(PageNumber::Help); }
 
 void frmMain::OpenWebsite() { openAddress(QUrl(Maker::WebAddress)); }
 
@@ -789,12 +816,12 @@ void frmMain::closeEvent(QCloseEvent *event) {
 
 void frmMain::SavePosition() {
   if (isMinimized()) return;
-  settings.SetIntValue(SettingKeys::WindowState, isMaximized() ? 2 : 0);
-  if (isMaximized() || isFullScreen()) return;
-  settings.SetIntValue(SettingKeys::TopPos, y());
-  settings.SetIntValue(SettingKeys::LeftPos, x());
-  settings.SetIntValue(SettingKeys::Width, width());
-  settings.SetIntValue(SettingKeys::Height, height());
+  std::vector<UserSettings::Change> changes{{SettingKeys::WindowState, isMaximized() ? 2 : 0}};
+  if (!isMaximized() && !isFullScreen())
+    changes.insert(
+        changes.end(),
+        {{SettingKeys::TopPos, y()}, {SettingKeys::LeftPos, x()}, {SettingKeys::Width, width()}, {SettingKeys::Height, height()}});
+  settings.SetAll(changes);
 }
 
 bool frmMain::event(QEvent *event) {

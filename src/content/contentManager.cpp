@@ -6,51 +6,46 @@
 #include <algorithm>
 
 #include "analysis/SelvaniDailyMod.h"
+#include "content/PageNumber.h"
 #include "platform/Errors.h"
 #include "platform/Notices.h"
 
-namespace {
-
-constexpr int Overview = 18, Credits = 5;
-
-}  // namespace
-
 const std::vector<contentManager::Row> &contentManager::Table() {
   static const std::vector<Row> table{
-      {1, "ChartList", "picChartList"},
-      {2, "PredictionList", "picPrediList"},
-      {5, "Credits", "picCredits"},
-      {6, "BirthKundali", "Kundali"},
-      {7, "SunriseKundali", "Kundali"},
-      {8, "TransitKundali", "Kundali"},
-      {9, "BirthPlanets", "framPlPos"},
-      {10, "TodayPlanets", "framPlPos"},
-      {11, "VimshottariDasha", "framVimsot"},
-      {12, "TrishulChakra", "framTrishulChakra"},
-      {13, "Panchang", "framPanchaang"},
-      {15, "Journey", "rtf"},
-      {16, "Chowgadiya", "framChog"},
-      {17, "HoraChart", "framHoraChrt"},
-      {18, "TodayOverview", "framMainPage"},
-      {19, "Rashifala", "rtf"},
-      {20, "MoonTransits", "rtf"},
-      {21, "FinancialAnalysis", "rtf"},
-      {22, "EvilMuhurthas", "framKulik"},
-      {23, "YogaResults", "rtf"},
-      {24, "SuryaYogaResults", "rtf"},
-      {25, "TithiResult", "rtf"},
-      {27, "NakshatraResult", "rtf"},
-      {28, "WeekdayResult", "rtf"},
-      {29, "DivisionalCharts", "framVargas"},
-      {30, "Ashtakavarga", "framAshtak"},
-      {31, "Upagrahas", "framUpagrahas"},
-      {32, "Aspects", "framAspects"},
-      {33, "BirthAttributes", "framBirthAttributes"},
-      {34, "DayScores", "framScores"},
-      {35, "VakyaPositions", "framVakya"},
-      {36, "ExactDay", "framExactDay"},
-      {37, "Month", "framMonth"},
-      {StudyListPage, "StudyList", "picStudyList"},
+      {PageNumber::ChartList, "ChartList", "picChartList"},
+      {PageNumber::PredictionList, "PredictionList", "picPrediList"},
+      {PageNumber::Credits, "Credits", "picCredits"},
+      {PageNumber::BirthKundali, "BirthKundali", "Kundali"},
+      {PageNumber::SunriseKundali, "SunriseKundali", "Kundali"},
+      {PageNumber::TransitKundali, "TransitKundali", "Kundali"},
+      {PageNumber::BirthPlanets, "BirthPlanets", "framPlPos"},
+      {PageNumber::TodayPlanets, "TodayPlanets", "framPlPos"},
+      {PageNumber::VimshottariDasha, "VimshottariDasha", "framVimsot"},
+      {PageNumber::TrishulChakra, "TrishulChakra", "framTrishulChakra"},
+      {PageNumber::Panchang, "Panchang", "framPanchaang"},
+      {PageNumber::Journey, "Journey", "rtf"},
+      {PageNumber::Chowgadiya, "Chowgadiya", "framChog"},
+      {PageNumber::HoraChart, "HoraChart", "framHoraChrt"},
+      {PageNumber::TodayOverview, "TodayOverview", "framMainPage"},
+      {PageNumber::Rashifala, "Rashifala", "rtf"},
+      {PageNumber::MoonTransits, "MoonTransits", "rtf"},
+      {PageNumber::FinancialAnalysis, "FinancialAnalysis", "rtf"},
+      {PageNumber::EvilMuhurthas, "EvilMuhurthas", "framKulik"},
+      {PageNumber::YogaResults, "YogaResults", "rtf"},
+      {PageNumber::SuryaYogaResults, "SuryaYogaResults", "rtf"},
+      {PageNumber::TithiResult, "TithiResult", "rtf"},
+      {PageNumber::NakshatraResult, "NakshatraResult", "rtf"},
+      {PageNumber::WeekdayResult, "WeekdayResult", "rtf"},
+      {PageNumber::DivisionalCharts, "DivisionalCharts", "framVargas"},
+      {PageNumber::Ashtakavarga, "Ashtakavarga", "framAshtak"},
+      {PageNumber::Upagrahas, "Upagrahas", "framUpagrahas"},
+      {PageNumber::Aspects, "Aspects", "framAspects"},
+      {PageNumber::BirthAttributes, "BirthAttributes", "framBirthAttributes"},
+      {PageNumber::DayScores, "DayScores", "framScores"},
+      {PageNumber::VakyaPositions, "VakyaPositions", "framVakya"},
+      {PageNumber::ExactDay, "ExactDay", "framExactDay"},
+      {PageNumber::Month, "Month", "framMonth"},
+      {PageNumber::StudyList, "StudyList", "picStudyList"},
   };
   return table;
 }
@@ -69,7 +64,7 @@ QRect contentManager::ContentRect(const QSize &inner) {
 }
 
 QString contentManager::TitleOf(int page) const {
-  if (page == HelpPage) return tr("Help");
+  if (page == PageNumber::Help) return tr("Help");
   const auto row = std::find_if(Table().begin(), Table().end(), [page](const Row &r) { return r.page == page; });
   if (row == Table().end() || !session.HasAnalysis()) return {};
   return session.TodayChart().GetHeadValue(11, QLatin1String(row->titleKey), QStringLiteral("GEN"));
@@ -85,7 +80,7 @@ void contentManager::ShowPage(int page) {
   HideCurrentPage();
   if (leaving) leaving();
   CurrentPage = page;
-  if (page == Overview) content.widget->show();
+  if (page == PageNumber::TodayOverview) content.widget->show();
   Tell([&] {
     if (content.fill) content.fill();
   });
@@ -121,7 +116,7 @@ void contentManager::SetPageTitle(const QString &text) { title.setText(text); }
 
 // The credits are the program's own words in the program's own fonts, whatever the language.
 void contentManager::ApplyPageFonts(int page) {
-  if (page == Credits) return;
+  if (page == PageNumber::Credits) return;
   const Page &content = pages.at(page);
   if (content.applyFonts) content.applyFonts(fonts);
 }

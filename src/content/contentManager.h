@@ -20,10 +20,6 @@ class contentManager : public QObject {
   Q_OBJECT
 
  public:
-  // The help page and the third list stand beside the numbered ones.
-  static constexpr int HelpPage = 101;
-  static constexpr int StudyListPage = 102;
-
   struct Row {
     int page;
     const char *titleKey;  // in table Daily, category GEN

@@ -351,6 +351,7 @@ void frmSettings::Write() {
       // With none selected the last of the styles is meant.
       {SettingKeys::KundStyle, kundaliStyle->checkedId() < 0 ? SouthIndian : kundaliStyle->checkedId()}};
   if (ayanamsha->checkedId() > 0) changes.emplace_back(SettingKeys::AyanType, ayanamsha->checkedId());
+  isInForce = true;
   settings.SetAll(changes);
 }
 
@@ -366,8 +367,10 @@ void frmSettings::accept() {
 }
 
 void frmSettings::reject() {
+  const QString told = isInForce ? tr("You have chosen to cancel Settings Wizard. The settings could not be stored; what you last finished "
+                                      "with holds until the program ends.")
+                                 : tr("You have chosen to cancel Settings Wizard. Settings have not been changed.");
   Notices::Show({Notice::Kind::Information, tr("Settings Wizard not completed"),
-                 tr("You have chosen to cancel Settings Wizard. Settings have not been changed.") + QStringLiteral("\r\n") +
-                     tr("You can run Setup Wizard later by clicking on 'Settings'")});
+                 told + QStringLiteral("\r\n") + tr("You can run Setup Wizard later by clicking on 'Settings'")});
   QDialog::reject();
 }

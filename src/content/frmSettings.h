@@ -54,4 +54,5 @@ class frmSettings : public QDialog {
   QLineEdit *txtName;
   QLineEdit *txtAddress;
   QPushButton *flpCancel, *flpPrevFrame, *flpNextFrame, *flpFinish;
+  bool isInForce = false;  // a Finish set what holds for this run, kept or not
 };

@@ -70,12 +70,12 @@ void clsDashas::GenerateDashaLevel(int lord, int position, QDateTime start, doub
   }
 }
 
-// Takes the period by value: the level that it stands in is replaced.
 void clsDashas::Forget() {
   current = nullptr;
   level = 0;
 }
 
+// Takes the period by value: the level that it stands in is replaced.
 void clsDashas::GenerateFrom(DashaPeriod period) { GenerateDashaLevel(period.Lord, period.Position, period.Start, period.Length, records); }
 
 void clsDashas::GoDeep(int &index) {

@@ -7,17 +7,7 @@
 #include <QVariant>
 #include <optional>
 
-// A place on the earth with its clock, as the stores of persons and of residences keep it.
-struct PersonPlace {
-  QString City, Country;
-  QString GMTDIFF;  // hours.minutes ahead of Greenwich: "+05.30"
-  int LatDeg = 0, LatMT = 0;
-  QString TextNS = QStringLiteral("N");
-  int LongDeg = 0, LongMT = 0;
-  QString TextEW = QStringLiteral("E");
-
-  bool operator==(const PersonPlace &) const = default;
-};
+#include "persons/PlaceRecord.h"
 
 // One person of the list: the birth, and the residence where one is kept.
 struct PersonRecord {
@@ -26,8 +16,8 @@ struct PersonRecord {
   int Day = 0, Month = 0, Year = 0;
   int Hour = 0, Minutes = 0, seconds = 0;  // on the 24-hour clock
   int AMPM = 1;                            // 1 before noon, 2 from noon
-  PersonPlace birth;
-  std::optional<PersonPlace> residence;
+  PlaceRecord birth;
+  std::optional<PlaceRecord> residence;
   QString TCorrVal;              // decimal hours as "+00.00"; empty where the store holds none
   std::optional<int> Tcorrinde;  // which correction was offered, where the store holds it
 

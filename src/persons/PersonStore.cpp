@@ -20,7 +20,7 @@ int Whole(const Recordset &row, const char *column) { return row.Field(QLatin1St
 
 using Values = std::vector<std::pair<QString, QVariant>>;  // by column
 
-void AddPlace(Values &values, const PersonPlace &place) {
+void AddPlace(Values &values, const PlaceRecord &place) {
   const auto add = [&](const char *column, const QVariant &value) { values.emplace_back(QLatin1String(column), value); };
   add("Country", place.Country);
   add("City", place.City);
@@ -51,7 +51,7 @@ Values PersonValues(const PersonRecord &record) {
   return values;
 }
 
-Values ResidenceValues(const PersonPlace &place, const QVariant &name) {
+Values ResidenceValues(const PlaceRecord &place, const QVariant &name) {
   Values values{{QStringLiteral("Name"), name}};
   AddPlace(values, place);
   return values;
@@ -110,11 +110,6 @@ QStringList PersonStore::NamesIn(const Database &personDb) {
   return names;
 }
 
-PersonPlace PersonStore::ReadPlace(const Recordset &row) {
-  return {Text(row, "City"),   Text(row, "Country"),  Text(row, "GMTDIFF"), Whole(row, "LatDeg"), Whole(row, "LatMT"),
-          Text(row, "TextNS"), Whole(row, "LongDeg"), Whole(row, "LongMT"), Text(row, "TextEW")};
-}
-
 PersonRecord PersonStore::Read(const Recordset &row) const {
   PersonRecord record;
   record.Name = Text(row, "Name");
@@ -126,7 +121,7 @@ PersonRecord PersonStore::Read(const Recordset &row) const {
   record.Minutes = Whole(row, "Minutes");
   record.seconds = Whole(row, "seconds");
   record.AMPM = Whole(row, "AMPM");
-  record.birth = ReadPlace(row);
+  record.birth = ReadPlaceRecord(row);
   record.TCorrVal = Text(row, "TCorrVal");
   if (!row.Field(QStringLiteral("Tcorrinde")).isNull()) record.Tcorrinde = Whole(row, "Tcorrinde");
   KeepOdd(record, row, PersonValues(record), QString());
@@ -135,30 +130,29 @@ PersonRecord PersonStore::Read(const Recordset &row) const {
 }
 
 void PersonStore::ReadResidence(PersonRecord &record, const Recordset &row) {
-  record.residence = ReadPlace(row);
+  record.residence = ReadPlaceRecord(row);
   KeepOdd(record, row, ResidenceValues(*record.residence, StoredName(record)), OfResidence);
+}
+
+// Nothing where there is no row; of several residences of the name, the first.
+std::optional<PersonRecord> PersonStore::WithResidence(const Recordset &person) const {
+  if (person.IsEmpty()) return std::nullopt;
+  PersonRecord record = Read(person);
+  const Recordset place =
+      db->OpenRecordset(QStringLiteral("SELECT * FROM ") + Residences() + QStringLiteral(" WHERE Name = ?"), {record.Name});
+  if (!place.IsEmpty()) ReadResidence(record, place);
+  return record;
 }
 
 std::optional<PersonRecord> PersonStore::At(int position) const {
   if (position < 0) return std::nullopt;
   const Recordset person =
       db->OpenRecordset(QStringLiteral("SELECT * FROM main.Person") + ByName + QStringLiteral(" LIMIT 1 OFFSET ?"), {position});
-  if (person.IsEmpty()) return std::nullopt;
-  PersonRecord record = Read(person);
-  const Recordset place =
-      db->OpenRecordset(QStringLiteral("SELECT * FROM ") + Residences() + QStringLiteral(" WHERE Name = ?"), {record.Name});
-  if (!place.IsEmpty()) ReadResidence(record, place);
-  return record;
+  return WithResidence(person);
 }
 
 std::optional<PersonRecord> PersonStore::Find(const QString &name) const {
-  const Recordset person = db->OpenRecordset(QStringLiteral("SELECT * FROM main.Person WHERE Name = ?"), {name});
-  if (person.IsEmpty()) return std::nullopt;
-  PersonRecord record = Read(person);
-  const Recordset place =
-      db->OpenRecordset(QStringLiteral("SELECT * FROM ") + Residences() + QStringLiteral(" WHERE Name = ?"), {record.Name});
-  if (!place.IsEmpty()) ReadResidence(record, place);
-  return record;
+  return WithResidence(db->OpenRecordset(QStringLiteral("SELECT * FROM main.Person WHERE Name = ?"), {name}));
 }
 
 bool PersonStore::Has(const QString &name) const {

@@ -81,7 +81,7 @@ class PersonStore {
   QString Residences() const { return schema + QStringLiteral(".PERSON"); }
   PersonRecord Read(const Recordset &row) const;
   std::vector<PersonRecord> AllOf(const QString &name) const;
-  static PersonPlace ReadPlace(const Recordset &row);
+  std::optional<PersonRecord> WithResidence(const Recordset &person) const;
   static void ReadResidence(PersonRecord &record, const Recordset &row);
   enum class Extent { Screen, Whole };
   // How many of each name were written.

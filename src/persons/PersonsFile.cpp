@@ -172,7 +172,7 @@ QString CellText(const PersonRecord &record, const Field &field) {
   return odd == record.odd.end() ? field.get(record) : odd->toString();
 }
 
-QString PlaceFault(const PersonPlace &place) {
+QString PlaceFault(const PlaceRecord &place) {
   const auto isAngle = [](int degrees, int minutes, int most) {
     return degrees >= 0 && degrees <= most && minutes >= 0 && minutes < 60 && (degrees < most || minutes == 0);
   };
@@ -358,7 +358,7 @@ void PersonsFile::Contents::Take(PersonRecord &&record, const QString &fault, in
     return;
   }
   using PersonFields::NorthPole;
-  const auto isBeyond = [](const PersonPlace &place) { return place.LatDeg > NorthPole || (place.LatDeg == NorthPole && place.LatMT > 0); };
+  const auto isBeyond = [](const PlaceRecord &place) { return place.LatDeg > NorthPole || (place.LatDeg == NorthPole && place.LatMT > 0); };
   if (isBeyond(record.birth) || (record.residence && isBeyond(*record.residence)))
     doubts << tr("Line %1 came in; its latitude is beyond 090:00.").arg(line);
   persons.push_back(std::move(record));

@@ -195,7 +195,7 @@ void PlaceEditor::TakeNoPlace() {
   emit Changed();
 }
 
-void PlaceEditor::Show(const PersonPlace &place) {
+void PlaceEditor::Show(const PlaceRecord &place) {
   country->setEditText(place.Country);
   lastCountryTyped = place.Country;
   city->SetCountry(place.Country);
@@ -223,12 +223,12 @@ void PlaceEditor::DoubtLatitude() {
 }
 
 void PlaceEditor::Empty(const QString &withDifference) {
-  Show(PersonPlace());
+  Show(PlaceRecord());
   difference->setText(withDifference);
 }
 
-std::optional<PersonPlace> PlaceEditor::Read() {
-  PersonPlace place;
+std::optional<PlaceRecord> PlaceEditor::Read() {
+  PlaceRecord place;
   place.Country = country->currentText().trimmed();
   place.City = city->currentText().trimmed();
   bool isSound = true;

@@ -31,10 +31,10 @@ class PlaceEditor : public QWidget {
   void SetSearch(const PlaceSearch *places);
   void ListCountry(const QString &name);  // fills the list of cities
 
-  void Show(const PersonPlace &place);
+  void Show(const PlaceRecord &place);
   void Empty(const QString &difference);  // no place; "000:00" north and east
   // The place as the fields tell it. Nothing where one cannot be read: it then says so beside it and keeps its text.
-  std::optional<PersonPlace> Read();
+  std::optional<PlaceRecord> Read();
 
   // No city, at the crossing of equator and prime meridian: what the fields show before anything is entered.
   bool IsNowhere() const;

@@ -16,6 +16,6 @@ inline PersonRecord Numbered(const QString &name, int n) {
   record.Minutes = n % 60;
   record.AMPM = record.Hour >= 12 ? 2 : 1;
   record.birth = {"Agra", "India", "+05.30", n % 90, n % 60, "N", n % 180, n % 60, "E"};
-  record.residence = PersonPlace{"Lima", "Peru", "-05.00", n % 90, n % 60, "S", n % 180, n % 60, "W"};
+  record.residence = PlaceRecord{"Lima", "Peru", "-05.00", n % 90, n % 60, "S", n % 180, n % 60, "W"};
   return record;
 }

@@ -13,7 +13,7 @@
 
 // Values in the messages of failures.
 inline void PrintTo(const QString &text, std::ostream *out) { *out << '"' << text.toStdString() << '"'; }
-inline void PrintTo(const PersonPlace &place, std::ostream *out) {
+inline void PrintTo(const PlaceRecord &place, std::ostream *out) {
   *out << QStringList{place.City, place.Country, place.GMTDIFF}.join(u' ').toStdString() << ' ' << place.LatDeg << ':' << place.LatMT << ' '
        << place.LongDeg << ':' << place.LongMT;
 }

@@ -18,6 +18,7 @@
 #include "app/frmMessage.h"
 #include "app/frmSplash.h"
 #include "app/frmStatus.h"
+#include "content/PageNumber.h"
 #include "content/Skin.h"
 #include "content/Theme.h"
 #include "content/contentManager.h"
@@ -62,7 +63,7 @@ void ReachScreens::ForEach(const Visit &visit) {
     main.Pages().ShowPage(row.page);
     ShowTo(visit, QStringLiteral("%1 %2").arg(row.page).arg(main.Pages().TitleOf(row.page)), main);
   }
-  main.Pages().ShowPage(contentManager::HelpPage);
+  main.Pages().ShowPage(PageNumber::Help);
   ShowTo(visit, QStringLiteral("Help"), main);
   for (const int style : {1, 2}) {
     settings.SetIntValue(SettingKeys::KundStyle, style);

@@ -240,7 +240,7 @@ TEST_F(ExactScreens, TellExactTimesAndSaySo) {
 
 TEST_F(ExactScreens, NameAPolarNightInPlaceOfItsParts) {
   settings.SetIntValue(SettingKeys::DayDivisions, 2);
-  session.SetResidence(PlaceRecord{"Murmansk", "Russia", "+03.00", 68, 58, 33, 5, "N", "E"});
+  session.SetResidence(PlaceRecord{"Murmansk", "Russia", "+03.00", 68, 58, "N", 33, 5, "E"});
   session.BuildAnalysis(QDateTime(QDate(2025, 1, 1), QTime(12, 0), Qt::UTC));
   ChogadiyaView chogadiya;
   EvilMuhurthaView evil;

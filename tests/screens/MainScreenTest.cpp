@@ -20,6 +20,7 @@
 #include "app/frmMain.h"
 #include "chart/ImageButton.h"
 #include "chart/Kundali.h"
+#include "content/PageNumber.h"
 #include "content/SetFonts.h"
 #include "content/Skin.h"
 #include "content/Theme.h"
@@ -200,7 +201,7 @@ TEST_F(MainScreen, GoesBackOneStep) {
   QTest::keyClick(Find<Kundali>("kunTransit"), Qt::Key_Return);
   EXPECT_EQ(screen->Pages().Current(), 8);
   QTest::keyClick(screen.get(), Qt::Key_F1);
-  EXPECT_EQ(screen->Pages().Current(), contentManager::HelpPage);
+  EXPECT_EQ(screen->Pages().Current(), PageNumber::Help);
 }
 
 TEST_F(MainScreen, KeepsTheStatedRectangle) {

@@ -57,8 +57,8 @@ TEST_F(ManageUsers, AddsAPersonBornFarAwayWithTheClockOfThatDay) {
   EXPECT_EQ(stored->Hour, 21);
   EXPECT_EQ(stored->AMPM, 2);
   EXPECT_EQ(stored->Sex, 2);
-  EXPECT_EQ(stored->birth, (PersonPlace{"New York", "United States of America", "-04.00", 40, 43, "N", 74, 0, "W"}));
-  EXPECT_EQ(stored->residence, (PersonPlace{"", "", "+00.00", 0, 0, "N", 0, 0, "E"})) << "the defaults shown";
+  EXPECT_EQ(stored->birth, (PlaceRecord{"New York", "United States of America", "-04.00", 40, 43, "N", 74, 0, "W"}));
+  EXPECT_EQ(stored->residence, (PlaceRecord{"", "", "+00.00", 0, 0, "N", 0, 0, "E"})) << "the defaults shown";
   EXPECT_TRUE(notices.Seen().empty()) << "success is not confirmed";
 
   // An edit changes everything but the sex, and both files.

@@ -9,6 +9,7 @@
 
 #include "chart/Kundali.h"
 #include "content/frmSettings.h"
+#include "platform/Errors.h"
 #include "platform/Notices.h"
 #include "support/DataFolder.h"
 
@@ -139,4 +140,26 @@ TEST_F(SettingsWizard, WhatCannotBeWrittenStaysOnTheScreen) {
   EXPECT_EQ(Field("txtName").text(), "Amala");
   EXPECT_EQ(notices.Seen().size(), 1U);
   EXPECT_FALSE(settings.Stored("Init", "AyanType").has_value());
+}
+
+TEST_F(SettingsWizard, CancelAfterAFailedFinishTellsWhatHolds) {
+  class FullDisk : public MemoryUserSettings {
+   public:
+    void SetAll(const std::vector<Change> &changes) override {
+      MemoryUserSettings::SetAll(changes);
+      throw StoreError("The disk is full.");
+    }
+  };
+  FullDisk full;
+  frmSettings failing(full, ini);
+  failing.show();
+  for (int i = 0; i < 3; ++i) failing.findChild<QAbstractButton *>("flpNextFrame")->click();
+  failing.findChild<QAbstractButton *>("flpFinish")->click();
+  EXPECT_TRUE(failing.isVisible());
+  failing.findChild<QAbstractButton *>("flpCancel")->click();
+  EXPECT_FALSE(failing.isVisible());
+  ASSERT_EQ(notices.Seen().size(), 2U);
+  EXPECT_EQ(notices.Seen()[1].text,
+            "You have chosen to cancel Settings Wizard. The settings could not be stored; what you last finished with holds until the "
+            "program ends.\r\nYou can run Setup Wizard later by clicking on 'Settings'");
 }

@@ -33,7 +33,7 @@ BirthRecord BornAt(const char *city, int latitude, const char *northSouth, int l
           .Hour = 23,
           .Minutes = 40,
           .Sex = 1,
-          .place = {city, {}, zone, latitude, 10, longitude, 20, northSouth, eastWest},
+          .place = {city, {}, zone, latitude, 10, northSouth, longitude, 20, eastWest},
           .TimeCorr = "+01.00"};
 }
 

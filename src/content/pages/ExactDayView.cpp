@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "analysis/SelvaniDailyMod.h"
+#include "content/PageNumber.h"
 #include "content/SetFonts.h"
 #include "content/Theme.h"
 #include "content/pages/CaptionTable.h"
@@ -21,8 +22,6 @@
 #include "platform/Notices.h"
 
 namespace {
-
-constexpr int MonthPageNumber = 37;
 
 using Tone = ExactDayPage::Tone;
 
@@ -64,7 +63,7 @@ ExactDayView::ExactDayView(QWidget *parent)
   savePdf->setProperty("role", QStringLiteral("primary"));
   month->setObjectName(QStringLiteral("cmdExactMonth"));
   connect(savePdf, &QPushButton::clicked, this, [this] { SavePdf(); });
-  connect(month, &QPushButton::clicked, this, [this] { emit GoToPage(MonthPageNumber); });
+  connect(month, &QPushButton::clicked, this, [this] { emit GoToPage(PageNumber::Month); });
 
   auto *day = new Card;
   day->Body()->setContentsMargins(Grid::CardPadding, Grid::Gap + 4, Grid::CardPadding, Grid::CardPadding);

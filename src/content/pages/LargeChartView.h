@@ -8,7 +8,7 @@ class HeadedCard;
 class Kundali;
 class QLabel;
 
-// The large chart of pages 6 (birth), 7 (sunrise) and 8 (transit). The chart itself keeps its stated rectangle of the
+// The large chart of the birth, the sunrise and the transit page. The chart itself keeps its stated rectangle of the
 // main screen; around it stand the moment, the place and the style.
 class LargeChartView : public PageView {
   Q_OBJECT

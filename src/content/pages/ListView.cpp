@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "analysis/SelvaniDailyMod.h"
+#include "content/PageNumber.h"
 #include "content/Theme.h"
 #include "content/pages/PageScroll.h"
 #include "content/pages/PageTile.h"
@@ -37,35 +38,35 @@ ListView::ListView(const QString &name, const QString &element, std::vector<Entr
 
 QString ListView::HelpLine(int page) {
   switch (page) {
-    case 6: return tr("The sky at birth as a picture of twelve houses.");
-    case 7: return tr("The sky at the sunrise of the day.");
-    case 8: return tr("Where the planets stand at the chosen moment.");
-    case 9: return tr("Places, motion and dignity of the planets at birth.");
-    case 10: return tr("Places, motion and dignity of the planets now.");
-    case 11: return tr("The planetary periods of a life, five levels deep.");
-    case 12: return tr("The nakshatras around the trident, from the day's Moon.");
-    case 13: return tr("Tithi, nakshatra, yoga and karana, at birth and now.");
-    case 15: return tr("Whether the day favours a journey.");
-    case 16: return tr("Good and bad eighths of the day and the night.");
-    case 17: return tr("The planet that rules each hour.");
-    case 19: return tr("The day for your Moon sign.");
-    case 20: return tr("What the Moon's house from the birth Moon brings.");
-    case 21: return tr("Money and trade today.");
-    case 22: return tr("Four periods to keep clear of for new work.");
-    case 23: return tr("The special combinations of the day.");
-    case 24: return tr("The yoga of Sun and Moon, and its fruit.");
-    case 25: return tr("The lunar day, and what suits it.");
-    case 27: return tr("The Moon's nakshatra today.");
-    case 28: return tr("The lord of the weekday.");
-    case 29: return tr("Any of the seventeen, as a chart and as a table.");
-    case 30: return tr("The bindus of each planet by sign, and their total.");
-    case 31: return tr("The seventeen sensitive points, in both reckonings.");
-    case 32: return tr("Who looks at whom, by sign, by degree and by angle.");
-    case 33: return tr("Gana, nadi, yoni and the other marks of the birth star.");
-    case 34: return tr("Seven scores of the day and of the thirty to come.");
-    case 35: return tr("The siddhantic positions beside the modern ones.");
-    case 36: return tr("The day as a printed panchang has it, to the second.");
-    case 37: return tr("A month of tithis, nakshatras and sunrises at a glance.");
+    case PageNumber::BirthKundali: return tr("The sky at birth as a picture of twelve houses.");
+    case PageNumber::SunriseKundali: return tr("The sky at the sunrise of the day.");
+    case PageNumber::TransitKundali: return tr("Where the planets stand at the chosen moment.");
+    case PageNumber::BirthPlanets: return tr("Places, motion and dignity of the planets at birth.");
+    case PageNumber::TodayPlanets: return tr("Places, motion and dignity of the planets now.");
+    case PageNumber::VimshottariDasha: return tr("The planetary periods of a life, five levels deep.");
+    case PageNumber::TrishulChakra: return tr("The nakshatras around the trident, from the day's Moon.");
+    case PageNumber::Panchang: return tr("Tithi, nakshatra, yoga and karana, at birth and now.");
+    case PageNumber::Journey: return tr("Whether the day favours a journey.");
+    case PageNumber::Chowgadiya: return tr("Good and bad eighths of the day and the night.");
+    case PageNumber::HoraChart: return tr("The planet that rules each hour.");
+    case PageNumber::Rashifala: return tr("The day for your Moon sign.");
+    case PageNumber::MoonTransits: return tr("What the Moon's house from the birth Moon brings.");
+    case PageNumber::FinancialAnalysis: return tr("Money and trade today.");
+    case PageNumber::EvilMuhurthas: return tr("Four periods to keep clear of for new work.");
+    case PageNumber::YogaResults: return tr("The special combinations of the day.");
+    case PageNumber::SuryaYogaResults: return tr("The yoga of Sun and Moon, and its fruit.");
+    case PageNumber::TithiResult: return tr("The lunar day, and what suits it.");
+    case PageNumber::NakshatraResult: return tr("The Moon's nakshatra today.");
+    case PageNumber::WeekdayResult: return tr("The lord of the weekday.");
+    case PageNumber::DivisionalCharts: return tr("Any of the seventeen, as a chart and as a table.");
+    case PageNumber::Ashtakavarga: return tr("The bindus of each planet by sign, and their total.");
+    case PageNumber::Upagrahas: return tr("The seventeen sensitive points, in both reckonings.");
+    case PageNumber::Aspects: return tr("Who looks at whom, by sign, by degree and by angle.");
+    case PageNumber::BirthAttributes: return tr("Gana, nadi, yoni and the other marks of the birth star.");
+    case PageNumber::DayScores: return tr("Seven scores of the day and of the thirty to come.");
+    case PageNumber::VakyaPositions: return tr("The siddhantic positions beside the modern ones.");
+    case PageNumber::ExactDay: return tr("The day as a printed panchang has it, to the second.");
+    case PageNumber::Month: return tr("A month of tithis, nakshatras and sunrises at a glance.");
     default: return {};
   }
 }

@@ -9,6 +9,7 @@
 
 #include "analysis/MonthIcs.h"
 #include "analysis/SelvaniDailyMod.h"
+#include "content/PageNumber.h"
 #include "content/SetFonts.h"
 #include "content/Theme.h"
 #include "content/pages/Card.h"
@@ -20,12 +21,6 @@
 #include "platform/Errors.h"
 #include "platform/FileTools.h"
 #include "platform/Notices.h"
-
-namespace {
-
-constexpr int ExactDayPageNumber = 36;
-
-}  // namespace
 
 MonthView::MonthView(QWidget *parent)
     : PageView(parent), title(MakeHead(QStringLiteral("lblMonthTitle"))), subtitle(new QLabel), grid(new MonthGrid) {
@@ -72,7 +67,7 @@ MonthView::MonthView(QWidget *parent)
     if (path.isEmpty() || !shown) return;
     WriteWholeFile(path, MonthIcs::Calendar(shown->TodayChart(), page.year, page.month, QDateTime::currentDateTimeUtc()));
   }));
-  below->addWidget(button("cmdMonthDay", tr("Exact day"), [this] { emit GoToPage(ExactDayPageNumber); }));
+  below->addWidget(button("cmdMonthDay", tr("Exact day"), [this] { emit GoToPage(PageNumber::ExactDay); }));
   below->addStretch(1);
 
   auto *card = new Card;

@@ -10,6 +10,7 @@
 #include "analysis/ExactBeside.h"
 #include "analysis/SelvaniDailyMod.h"
 #include "chart/Kundali.h"
+#include "content/PageNumber.h"
 #include "content/SetFonts.h"
 #include "content/Skin.h"
 #include "content/Theme.h"
@@ -21,7 +22,6 @@ namespace {
 
 constexpr int HeadHeight = 28;   // pixels of every card's head line
 constexpr int NarrowPage = 620;  // pixels of width, below which the facts take the small size
-constexpr int BirthChartPage = 6, TransitChartPage = 8, PanchangPageNumber = 13, ExactDayPageNumber = 36;
 
 QFrame *Card(QWidget *parent) {
   auto *card = new QFrame(parent);
@@ -56,9 +56,9 @@ OverviewView::OverviewView(QWidget *parent) : PageView(parent) {
     chartColumn->addWidget(chart, 1);
     return chart;
   };
-  kunBirth = addChart("kunBirth", "lblBKundali", chartInfo, BirthChartPage);
+  kunBirth = addChart("kunBirth", "lblBKundali", chartInfo, PageNumber::BirthKundali);
   chartColumn->addSpacing(Grid::Gap);
-  kunTransit = addChart("kunTransit", "lblTransKundali", momentInfo, TransitChartPage);
+  kunTransit = addChart("kunTransit", "lblTransKundali", momentInfo, PageNumber::TransitKundali);
   columns->addWidget(charts, 27);
 
   lblTodPanchang = new QPushButton(this);
@@ -68,7 +68,7 @@ OverviewView::OverviewView(QWidget *parent) : PageView(parent) {
   lblTodPanchang->setFlat(true);
   lblTodPanchang->setIcon(Skin::Picture(QStringLiteral("ctlRight")));
   lblTodPanchang->setLayoutDirection(Qt::RightToLeft);  // the arrow follows the words
-  connect(lblTodPanchang, &QPushButton::clicked, this, [this] { emit GoToPage(PanchangPageNumber); });
+  connect(lblTodPanchang, &QPushButton::clicked, this, [this] { emit GoToPage(PageNumber::Panchang); });
 
   auto *facts = new QVBoxLayout;
   facts->setSpacing(2 * Grid::Gap);
@@ -100,7 +100,7 @@ void OverviewView::MakeExactLink(QPushButton &link) {
   link.setStyleSheet(QStringLiteral("padding: 0; min-height: 0; border-width: 1px;"));
   link.setCursor(Qt::PointingHandCursor);
   link.hide();
-  connect(&link, &QPushButton::clicked, this, [this] { emit GoToPage(ExactDayPageNumber); });
+  connect(&link, &QPushButton::clicked, this, [this] { emit GoToPage(PageNumber::ExactDay); });
 }
 
 QPushButton *OverviewView::ExactLink(const char *value) {
@@ -162,9 +162,8 @@ void OverviewView::Fill(SelvaniDailyMod &session) {
   const OverviewPage page = session.FillMainPage();
   FillChart(*kunBirth, page.kunBirth, session.Settings());
   FillChart(*kunTransit, page.kunTransit, session.Settings());
-  for (const auto &[element, caption] : page.Captions()) {
+  for (const auto &[element, caption] : page.Captions())
     if (QLabel *label = labels.value(element)) label->setText(caption);
-  }
   lblTodPanchang->setText(page.lblTodPanchang);
   exactHead->setText(page.lblExactBrief);
   exactHead->setToolTip(page.lblExactHead);
