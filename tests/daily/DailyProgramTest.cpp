@@ -216,7 +216,7 @@ TEST_F(DailyProgram, NamesTheStoredRecordThatCannotBeCalculated) {
   }
 
   QDir(config.path()).mkdir("orvani");
-  for (const char *content : {"[Init]\nAyanType=13\nCustAyan=much\n", "garbage"}) {
+  for (const char *content : {"[Init]\nAyanType=13\nCustAyan=much\n", "[Init]\nAyanType=13\nCustAyan=9999\n", "garbage"}) {
     WriteWholeFile(config.path() + "/orvani/orvani.conf", content);
     const Answer answer = Call(Birth);
     EXPECT_EQ(answer.code, 1) << content;
