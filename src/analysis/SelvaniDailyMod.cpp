@@ -124,7 +124,7 @@ QDateTime SelvaniDailyMod::BuildAnalysis(const QDateTime &moment) {
   return BuildAnalysisAt(residenceByHand ? residenceByHand : StoredResidence(BirthChart().clsPerson().Name()), moment);
 }
 
-QDateTime SelvaniDailyMod::BuildAnalysisAt(const std::optional<PlaceRecord> &residence, const QDateTime &moment) {
+QDateTime SelvaniDailyMod::BuildAnalysisAt(std::optional<PlaceRecord> residence, const QDateTime &moment) {
   const clsPerson &birth = BirthChart().clsPerson();
   auto session = std::make_unique<clsSelvaniDaily>(settings);
   session->TodayChart.setTextDB(stores.words, stores.personDb);
@@ -145,6 +145,7 @@ QDateTime SelvaniDailyMod::BuildAnalysisAt(const std::optional<PlaceRecord> &res
   session->TodayChart.Calculate();
   dailySession = std::move(session);
   analysisMoment = moment;
+  analysisResidence = std::move(residence);
   lblNowInfo = QStringLiteral("Today : %1 %2:%3 ")
                    .arg(QLocale::c().toString(moment.date(), QStringLiteral("dddd, MMMM dd, yyyy")), QString::number(moment.time().hour()),
                         QString::number(moment.time().minute()));
@@ -154,7 +155,7 @@ QDateTime SelvaniDailyMod::BuildAnalysisAt(const std::optional<PlaceRecord> &res
 void SelvaniDailyMod::ChangeLanguage(std::shared_ptr<TextDb> words) {
   stores.words = std::move(words);
   if (birthChart) birthChart->setTextDB(stores.words, stores.personDb);
-  if (dailySession) BuildAnalysis(analysisMoment);
+  if (dailySession) BuildAnalysisAt(analysisResidence, analysisMoment);
 }
 
 PersonHeader SelvaniDailyMod::ShowPersonHeader() const {

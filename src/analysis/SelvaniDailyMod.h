@@ -68,7 +68,7 @@ class SelvaniDailyMod {
 
  private:
   bool LoadBirth(const QString &name);
-  QDateTime BuildAnalysisAt(const std::optional<PlaceRecord> &residence, const QDateTime &moment);
+  QDateTime BuildAnalysisAt(std::optional<PlaceRecord> residence, const QDateTime &moment);
   std::optional<PlaceRecord> StoredResidence(const QString &name) const;
 
   UserSettings &settings;
@@ -78,6 +78,7 @@ class SelvaniDailyMod {
   std::unique_ptr<clsPlanets> birthChart;
   std::unique_ptr<clsSelvaniDaily> dailySession;
   QDateTime analysisMoment;
+  std::optional<PlaceRecord> analysisResidence;
   clsDashas dashas;
   QString lblNowInfo;
 };

@@ -7,7 +7,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <cerrno>
-#include <cmath>
 #include <cstdio>
 #include <cstring>
 #include <memory>
@@ -93,11 +92,9 @@ int ListPersons(const Database &persons, DailyOptions::Form form) {
 
 // A stored ayanamsha that is no number of degrees is a fault of the settings, not of the person whose chart asks for it.
 void CheckCustomAyanamsha(const UserSettings &settings, const FileUserSettings &stored) {
-  if (settings.IntValue(SettingKeys::AyanType) != 13) return;
-  const QString degrees = settings.Value(SettingKeys::CustAyan);
+  if (settings.IntValue(SettingKeys::AyanType) != SettingKeys::CustomAyanType) return;
   try {
-    if (std::abs(TextToNumber(degrees, QStringLiteral("custom ayanamsha (CustAyan)"))) > 360)
-      throw ConversionError(QStringLiteral("The custom ayanamsha (CustAyan) \"%1\" lies beyond 360 degrees.").arg(degrees));
+    TextToDegrees(settings.Value(SettingKeys::CustAyan), QStringLiteral("custom ayanamsha (CustAyan)"));
   } catch (const ConversionError &error) {
     throw StoreError(QStringLiteral("The settings file '%1' cannot be used. %2").arg(stored.Path(), error.Sentence()));
   }

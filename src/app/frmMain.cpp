@@ -69,6 +69,7 @@
 #include "persons/frmPeople.h"
 #include "platform/Errors.h"
 #include "platform/Notices.h"
+#include "platform/Numbers.h"
 #include "platform/StoreKeeper.h"
 #include "platform/gui/AskSaveFile.h"
 #include "reports/DailyReport.h"
@@ -485,7 +486,7 @@ void frmMain::Load() {
   SelectLanguage();
   CheckAyanamsha();
   SelectLastPerson();
-  ShowFirstDay();
+  BuildDay(clock());
   StoresChanged();
   ShowPersonHeader();
   ChangeMouseIcons();
@@ -589,30 +590,31 @@ void frmMain::SelectLastPerson() {
   session->SetBirthPerson(SamplePerson());  // again after a change of settings too, which the birth chart has to follow
 }
 
-// A custom ayanamsha that no chart can be calculated with is told once and not of each birth, and leaves a screen to mend it on.
+// No chart can be calculated with a custom ayanamsha that is no angle: told once and not of each birth, it leaves a screen to mend it on.
 void frmMain::CheckAyanamsha() {
+  if (settings.IntValue(SettingKeys::AyanType) != SettingKeys::CustomAyanType) return;
   try {
-    session->SetBirthPerson(SamplePerson());
-    sampleShown = true;
-  } catch (const Error &error) {
-    Notices::Show(
-        {Notice::Kind::Warning, QString(),
-         tr("The ayanamsha of the settings cannot be used. %1 The usual one holds until you choose another.").arg(error.Sentence())});
+    TextToDegrees(settings.Value(SettingKeys::CustAyan), tr("custom ayanamsha of the settings"));
+  } catch (const ConversionError &error) {
+    const auto tell = [](const QString &words) { Notices::Show({Notice::Kind::Warning, QString(), words}); };
+    tell(tr("%1 The usual ayanamsha holds until you choose another.").arg(error.Sentence()));
     try {
       settings.SetValue(SettingKeys::AyanType, QLatin1String(SettingKeys::AyanType.fallback));
-    } catch (const StoreError &) {
-      return;  // it holds for this run
+    } catch (const StoreError &notKept) {
+      tell(notKept.Sentence());
     }
   }
 }
 
-// A residence that cannot be used must not keep the program from the screen on which it can be mended.
-void frmMain::ShowFirstDay() {
+// A residence that cannot be used must keep neither the day from the window nor the user from the screen on which it is mended.
+void frmMain::BuildDay(const QDateTime &moment) {
   try {
-    session->BuildAnalysis(clock());
+    session->BuildAnalysis(moment);
+    toldResidence.clear();
   } catch (const Error &error) {
+    session->BuildAnalysisAtBirthPlace(moment);  // where the moment itself is at fault, that is what is told
+    if (std::exchange(toldResidence, error.Sentence()) == error.Sentence()) return;
     Notices::Show({Notice::Kind::Warning, QString(), tr("%1 The day is shown for the birth place.").arg(error.Sentence())});
-    session->BuildAnalysisAtBirthPlace(clock());
   }
 }
 
@@ -664,18 +666,18 @@ void frmMain::ShowAfter(const std::function<void()> &step) {
 
 void frmMain::ChangePerson(const QString &name) {
   ShowAfter([&] {
-    if (session->LoadPerson(name)) session->BuildAnalysis(clock());
+    if (session->LoadPerson(name)) BuildDay(clock());
   });
 }
 
 void frmMain::ChangeMoment(const QDateTime &moment) {
-  ShowAfter([&] { session->BuildAnalysis(moment); });
+  ShowAfter([&] { BuildDay(moment); });
 }
 
 void frmMain::CalculateAnew() {
   ShowAfter([this] {
     SelectLastPerson();
-    session->BuildAnalysis(session->AnalysisMoment());
+    BuildDay(session->AnalysisMoment());
   });
 }
 
@@ -723,7 +725,7 @@ void frmMain::OpenPersonManager() {
     connect(&manager, &frmManageUsers::Closed, this, [this](const QString &name) {
       ShowAfter([&] {
         session->LoadPerson(name);
-        session->BuildAnalysis(session->AnalysisMoment());
+        BuildDay(session->AnalysisMoment());
       });
     });
     manager.exec();
@@ -843,7 +845,7 @@ void frmMain::FollowOthers() {
       lblHint->setText(tr("%1 is no longer in the list of persons.").arg(session->BirthChart().clsPerson().Name()));
       return;
     }
-    session->BuildAnalysis(session->AnalysisMoment());
+    BuildDay(session->AnalysisMoment());
     followDue = false;
   } catch (const Error &) {
     return;  // tried again at the next return to the window, where a box would come again and again

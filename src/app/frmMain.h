@@ -91,7 +91,7 @@ class frmMain : public QMainWindow {
   void OnLanguageChosen(int index);
   void CheckAyanamsha();
   void SelectLastPerson();
-  void ShowFirstDay();
+  void BuildDay(const QDateTime &moment);
   void ChangeMouseIcons();
   void ShowPersonHeader();
   void ShowMoment();
@@ -117,6 +117,7 @@ class frmMain : public QMainWindow {
   SetFonts fonts;
   bool sampleShown = false;  // no stored person is to be had
   std::pair<qlonglong, qlonglong> seenStores;
+  QString toldResidence;   // the fault of the residence that was told last
   bool followDue = false;  // another window's change is not shown yet
 
   QWidget *header = nullptr;

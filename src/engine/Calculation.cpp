@@ -60,7 +60,7 @@ constexpr std::array<RateAyanamsha, 9> RateAyanamshas{{
     {11, 663, 60.66},  // this rate stands apart from the others on purpose
 }};
 
-constexpr int Lahiri = 1, Krishnamurti = 3, Custom = 13, SuryaSiddhanta = 15;
+constexpr int Lahiri = 1, Krishnamurti = 3, Custom = SettingKeys::CustomAyanType, SuryaSiddhanta = 15;
 
 bool IsLetter(const QString &hemisphere, char letter) { return hemisphere.compare(QLatin1Char(letter), Qt::CaseInsensitive) == 0; }
 

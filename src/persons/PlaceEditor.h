@@ -6,7 +6,7 @@
 #include <QTime>
 #include <QWidget>
 
-#include "persons/PersonRecord.h"
+#include "persons/PlaceRecord.h"
 #include "persons/PlaceSearch.h"
 
 class PlaceCombo;

@@ -15,7 +15,6 @@
 #include <QRadioButton>
 #include <QTabWidget>
 #include <QVBoxLayout>
-#include <cmath>
 #include <span>
 
 #include "content/Theme.h"
@@ -32,7 +31,6 @@ using namespace FormParts;
 namespace {
 
 constexpr double FarthestAngle = 180;
-constexpr double LargestAyanamsha = 360;
 
 struct Choice {
   const char *name;
@@ -45,7 +43,7 @@ constexpr Choice Ayanamshas[] = {{"optLahiri", Lahiri, QT_TRANSLATE_NOOP("frmEdi
                                  {"optKP", 3, QT_TRANSLATE_NOOP("frmEditLongLat", "Krishnamurthy (KP)")},
                                  {"optSayan", 12, QT_TRANSLATE_NOOP("frmEditLongLat", "Sayan (No Ayanamsh)")},
                                  {"optVakya", Vakya, QT_TRANSLATE_NOOP("frmEditLongLat", "Vakya")},
-                                 {"optCustom", 13, QT_TRANSLATE_NOOP("frmEditLongLat", "Custom Ayanamsh")}};
+                                 {"optCustom", SettingKeys::CustomAyanType, QT_TRANSLATE_NOOP("frmEditLongLat", "Custom Ayanamsh")}};
 constexpr Choice Nodes[] = {{"optRahuMean", 1, QT_TRANSLATE_NOOP("frmEditLongLat", "Mean Position (Default)")},
                             {"optRahuTrue", 2, QT_TRANSLATE_NOOP("frmEditLongLat", "True Position")}};
 constexpr Choice DayDivisions[] = {{"optDivisionsHouse", 1, QT_TRANSLATE_NOOP("frmEditLongLat", "House rule (Default)")},
@@ -90,14 +88,6 @@ double AngleNumber(const QString &text) {
   bool isNumber = false;
   const double number = (text.left(3) + QLatin1Char('.') + text.right(2)).toDouble(&isNumber);
   return isNumber ? number : 0;
-}
-
-bool IsAyanamsha(const QString &text) {
-  try {
-    return std::abs(TextToNumber(text, QString())) <= LargestAyanamsha;
-  } catch (const ConversionError &) {
-    return false;
-  }
 }
 
 }  // namespace
@@ -334,7 +324,8 @@ QWidget *frmEditLongLat::MakeOptionsTab() {
   buttons->addStretch();
   buttons->addWidget(save);
   layout->addLayout(buttons);
-  connect(ayanamshas, &QButtonGroup::idToggled, this, [this] { txtCustAyan->setEnabled(ayanamshas->checkedId() == 13); });
+  connect(ayanamshas, &QButtonGroup::idToggled, this,
+          [this] { txtCustAyan->setEnabled(ayanamshas->checkedId() == SettingKeys::CustomAyanType); });
   connect(save, &QPushButton::clicked, this, [this] { Guard(*this, [this] { SaveOptions(); }); });
   return tab;
 }
@@ -595,20 +586,23 @@ void frmEditLongLat::ShowOptions() {
   Select(*dayDivisions, userSettings.IntValue(SettingKeys::DayDivisions) == 2 ? 2 : 1);
   Select(*sunriseRules, userSettings.IntValue(SettingKeys::SunriseRule) == 2 ? 2 : 1);
   txtCustAyan->setText(userSettings.Value(SettingKeys::CustAyan));
-  txtCustAyan->setEnabled(ayanamshas->checkedId() == 13);
+  txtCustAyan->setEnabled(ayanamshas->checkedId() == SettingKeys::CustomAyanType);
   txtName->setText(ini.GetIniString(QStringLiteral("DispName"), QString()));
   txtAddress->setPlainText(ini.GetIniString(QStringLiteral("DispAdd"), QString()));
 }
 
 void frmEditLongLat::SaveOptions() {
-  auto *fault = findChild<QLabel *>(QStringLiteral("fault_txtCustAyan"));
-  if (!IsAyanamsha(txtCustAyan->text())) {
-    Say(*fault, tr("Please write degrees as a decimal number up to 360, as 23.50."));
-    return;
-  }
   std::vector<UserSettings::Change> changes{{SettingKeys::DayDivisions, dayDivisions->checkedId()},
-                                            {SettingKeys::SunriseRule, sunriseRules->checkedId()},
-                                            {SettingKeys::CustAyan, txtCustAyan->text().trimmed()}};
+                                            {SettingKeys::SunriseRule, sunriseRules->checkedId()}};
+  if (ayanamshas->checkedId() == SettingKeys::CustomAyanType) {
+    try {
+      TextToDegrees(txtCustAyan->text(), tr("custom ayanamsha"));
+    } catch (const ConversionError &) {
+      Say(*findChild<QLabel *>(QStringLiteral("fault_txtCustAyan")), tr("Please write degrees as a decimal number up to 360, as 23.50."));
+      return;
+    }
+    changes.emplace_back(SettingKeys::CustAyan, txtCustAyan->text().trimmed());
+  }
   if (ayanamshas->checkedId() >= 0) changes.emplace_back(SettingKeys::AyanType, ayanamshas->checkedId());
   if (nodes->checkedId() >= 0) changes.emplace_back(SettingKeys::RahuKetuMode, nodes->checkedId());
   try {

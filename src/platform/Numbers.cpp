@@ -40,6 +40,16 @@ double TextToNumber(const QString &text, const QString &what) {
   return number;
 }
 
+double TextToDegrees(const QString &text, const QString &what) {
+  const double degrees = TextToNumber(text, what);
+  if (std::abs(degrees) > 360) {
+    throw ConversionError(
+        QCoreApplication::translate("Numbers", "The %1 \"%2\" is more than a circle. Please give degrees from -360 to 360.")
+            .arg(what, text));
+  }
+  return degrees;
+}
+
 QString NumberToText(double number) {
   if (!std::isfinite(number))
     throw ArithmeticError(QCoreApplication::translate("Numbers", "A calculation gave no number that can be shown."));

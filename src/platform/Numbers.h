@@ -12,6 +12,10 @@
 // Throws ConversionError for anything else: an empty text, "5,30", "inf", "0x10", a number too large.
 double TextToNumber(const QString &text, const QString &what);
 
+// The same for degrees of a circle.
+// Throws ConversionError also for less than -360 and more than 360.
+double TextToDegrees(const QString &text, const QString &what);
+
 // The shortest plain decimal text (no exponent) that TextToNumber reads back as the same number: 5.5 -> "5.5", 5 -> "5", -0 -> "0".
 // Throws ArithmeticError for a number that is not finite.
 QString NumberToText(double number);

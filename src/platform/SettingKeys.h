@@ -11,7 +11,8 @@ struct SettingKey {
 
 // Every per-user setting with its default, so that no key is spelled twice.
 struct SettingKeys {
-  static constexpr SettingKey AyanType{"Init", "AyanType", "1"};          // ayanamsha: 1 Lahiri ... 13 custom
+  static constexpr SettingKey AyanType{"Init", "AyanType", "1"};  // ayanamsha: 1 Lahiri ... 13 custom
+  static constexpr int CustomAyanType = 13;
   static constexpr SettingKey RahuKetuMode{"Init", "RahuKetuMode", "1"};  // 1 mean node, 2 true node
   static constexpr SettingKey CustAyan{"Init", "CustAyan", "00.00"};      // custom ayanamsha, decimal degrees
   static constexpr SettingKey KundStyle{"Init", "KundStyle", "0"};        // 0 North, 1 East, 2 South Indian

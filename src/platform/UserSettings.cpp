@@ -13,6 +13,7 @@
 #include <QTemporaryDir>
 
 #include <algorithm>
+#include <memory>
 #include <optional>
 
 namespace {
@@ -32,6 +33,8 @@ QString StoredSpelling(const QStringList &names, const QString &name) {
   return name;
 }
 
+QString ValueKey(const QString &section, const QString &key) { return (section + u'/' + key).toLower(); }
+
 QString FullKey(QSettings &file, const QString &section, const QString &key) {
   const QString storedSection = StoredSpelling(file.childGroups(), section);
   file.beginGroup(storedSection);
@@ -44,30 +47,46 @@ QString FullKey(QSettings &file, const QString &section, const QString &key) {
 // notes the file's size and time only after the reading, so that it can miss what another program writes in between, and undo it.
 class SettingsCopy {
  public:
-  // Throws StoreError when the temporary folder does not take it.
-  explicit SettingsCopy(const QByteArray &text) {
-    QFile copy(folder.filePath(QStringLiteral("orvani.conf")));
-    if (!folder.isValid() || !copy.open(QIODevice::WriteOnly) || copy.write(text) != text.size() || !copy.flush()) {
-      throw StoreError(FileUserSettings::tr("The temporary folder \"%1\" cannot be written. Please allow writing to it, and check that the "
-                                            "disk is not full.")
-                           .arg(QDir::toNativeSeparators(QDir::tempPath())),
-                       StoreError::Kind::ReadOnly);
+  // Stands in the temporary folder, or else beside the settings file.
+  // Throws StoreError when neither takes it.
+  SettingsCopy(const QByteArray &text, const QString &settingsFile) : path(settingsFile) {
+    const QString name = QStringLiteral("/orvani-XXXXXX");
+    for (const QString &place : {QDir::tempPath(), QFileInfo(path).path()}) {
+      folder = std::make_unique<QTemporaryDir>(place + name);
+      QFile copy(folder->filePath(QStringLiteral("orvani.conf")));
+      if (!folder->isValid() || !copy.open(QIODevice::WriteOnly) || copy.write(text) != text.size() || !copy.flush()) continue;
+      file.emplace(copy.fileName(), QSettings::IniFormat);
+      return;
     }
-    file.emplace(copy.fileName(), QSettings::IniFormat);
+    ThrowNoRoom();
   }
 
   QSettings &File() { return *file; }
 
   // The text with the changes.
-  // Throws StoreError when the temporary folder has no room for that many bytes.
+  // Throws StoreError when there is no room for that many bytes.
   QByteArray Text(qint64 mostBytes) {
-    CheckRoom(file->fileName(), mostBytes);  // the library would leave an empty file on a full disk
-    file->sync();
-    return ReadWholeFile(file->fileName());
+    try {
+      CheckRoom(file->fileName(), mostBytes);  // the library would leave an empty file on a full disk
+      file->sync();
+      const QByteArray text = ReadWholeFile(file->fileName());
+      if (file->status() == QSettings::NoError && !text.trimmed().isEmpty()) return text;
+    } catch (const StoreError &) {
+      // Told below, by the name that the user knows.
+    }
+    ThrowNoRoom();
   }
 
  private:
-  QTemporaryDir folder;
+  [[noreturn]] void ThrowNoRoom() const {
+    throw StoreError(FileUserSettings::tr("There is no room for a copy of the settings file \"%1\", so it stays as it is. Please make room "
+                                          "in \"%2\", and allow writing there.")
+                         .arg(path, QDir::toNativeSeparators(QDir::tempPath())),
+                     StoreError::Kind::NoSpace);
+  }
+
+  QString path;
+  std::unique_ptr<QTemporaryDir> folder;
   std::optional<QSettings> file;
 };
 
@@ -135,13 +154,12 @@ QByteArray FileUserSettings::Content() const {
   const QFileInfo info(Path());
   if (!info.exists()) return {};
   QFile file(Path());
-  if (!info.isFile() || !file.open(QIODevice::ReadOnly)) {
-    throw StoreError(
-        tr("The settings file \"%1\" cannot be read. Please allow reading it, or move it away to start with the usual settings.")
-            .arg(Path()),
-        info.isFile() ? StoreError::Kind::Unreadable : StoreError::Kind::NotAFile);
-  }
+  const StoreError unreadable(
+      tr("The settings file \"%1\" cannot be read. Please allow reading it, or move it away to start with the usual settings.").arg(Path()),
+      info.isFile() ? StoreError::Kind::Unreadable : StoreError::Kind::NotAFile);
+  if (!info.isFile() || !file.open(QIODevice::ReadOnly)) throw unreadable;
   const QByteArray content = file.readAll();
+  if (file.error() != QFileDevice::NoError) throw unreadable;
   if (!LooksLikeSettings(content)) ThrowDamaged();
   return content;
 }
@@ -150,9 +168,9 @@ void FileUserSettings::TakeIn(const QByteArray &content) {
   std::optional<SettingsCopy> copy;
   std::optional<QSettings> original;
   try {
-    copy.emplace(content);
+    copy.emplace(content, Path());
   } catch (const StoreError &) {
-    original.emplace(Path(), QSettings::IniFormat);  // without room nobody else writes either
+    original.emplace(Path(), QSettings::IniFormat);  // a full disk keeps nobody from the usual day; a write will be refused
   }
   QSettings &file = copy ? copy->File() : *original;
   if (file.status() != QSettings::NoError) ThrowDamaged();
@@ -164,6 +182,7 @@ void FileUserSettings::TakeIn(const QByteArray &content) {
     values.insert(key.toLower(),
                   value.typeId() == QMetaType::QStringList ? value.toStringList().join(QStringLiteral(", ")) : value.toString());
   }
+  for (auto own = unkept.cbegin(); own != unkept.cend(); ++own) values.insert(own.key(), own.value());
   taken = content;
 }
 
@@ -180,19 +199,19 @@ bool FileUserSettings::Refresh() {
 }
 
 std::optional<QString> FileUserSettings::Stored(const QString &section, const QString &key) const {
-  const auto found = values.constFind((section + u'/' + key).toLower());
+  const auto found = values.constFind(ValueKey(section, key));
   return found == values.constEnd() ? std::nullopt : std::optional<QString>(*found);
 }
 
 void FileUserSettings::SetAll(const std::vector<Change> &changes) {
-  for (const Change &change : changes)
-    values.insert((change.section + u'/' + change.key).toLower(), change.value);  // what cannot be kept holds for this run all the same
+  for (const Change &change : changes) unkept.insert(ValueKey(change.section, change.key), change.value);
+  values.insert(unkept);
   QDir().mkpath(QFileInfo(Path()).path());
   // What another program stored since is read first, and nobody writes in between.
   const WriteTurn turn(Path(),
                        tr("The settings file \"%1\" is in use by another program. Please close that program and try again.").arg(Path()));
   const QByteArray before = Content();
-  SettingsCopy copy(before);
+  SettingsCopy copy(before, Path());
   if (copy.File().status() != QSettings::NoError) ThrowDamaged();
   qint64 room = before.size();
   for (const Change &change : changes) {
@@ -200,6 +219,7 @@ void FileUserSettings::SetAll(const std::vector<Change> &changes) {
     room += RoomForOneValue + change.value.size() * MostBytesOfALetter;
   }
   WriteWholeFile(Path(), copy.Text(room));
+  for (const Change &change : changes) unkept.remove(ValueKey(change.section, change.key));
 }
 
 namespace {

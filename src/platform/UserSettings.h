@@ -83,6 +83,7 @@ class FileUserSettings : public UserSettings {
   QString path;
   QByteArray taken;                // what the values were read from
   QHash<QString, QString> values;  // of the whole file, by full key
+  QHash<QString, QString> unkept;  // what could not be stored holds for this run
 };
 
 // Settings that live as long as the object, for tests.

@@ -29,6 +29,11 @@ struct FormText {
   std::function<Format(int SelStart)> FormatAt;
 };
 
+// The edges between which running text stands on an upright sheet, in twips.
+struct RunningText {
+  static constexpr double Left = 1502, Width = 8902;
+};
+
 // One thing on a page as printing code sees it, by type name: "Label", "Line", "Shape", "Kundali", "Image" or
 // "TXTextControl". Lengths are twips from the page's or the container's top left; colours are 0xRRGGBB.
 struct FormItem {

@@ -4,6 +4,7 @@
 
 #include <QDate>
 #include <QPrinter>
+#include <utility>
 
 #include "platform/ReportError.h"
 #include "platform/gui/QtPdfBox.h"
@@ -16,12 +17,18 @@
 
 namespace {
 
-bool PrintSheets(const std::vector<FormPage> &sheets, PrinterService &service) {
-  for (const FormPage &sheet : sheets) {
-    if (&sheet != &sheets.front()) service.NewPage();
-    if (!clsPrintMaker(service).PrintForm(sheet)) return false;
+bool PrintSheets(const FormPage &form, PrinterService &service) {
+  try {
+    bool isFirst = true;
+    for (const FormPage &sheet : TextSheets(form, service)) {
+      if (!std::exchange(isFirst, false)) service.NewPage();
+      if (!clsPrintMaker(service).PrintForm(sheet)) return false;
+    }
+    return true;
+  } catch (const Error &) {
+    clsPrintMaker::TellFault();
+    return false;
   }
-  return true;
 }
 
 }  // namespace
@@ -40,7 +47,7 @@ bool PageExport::Print(QWidget &page, QPrinter &printer) {
   printer.setPageOrientation(form.landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
   QtPrinterService service(printer);
   service.SetLandscape(form.landscape);
-  const bool printed = PrintSheets(TextSheets(form, service), service);
+  const bool printed = PrintSheets(form, service);
   if (printed)
     service.EndDoc();
   else

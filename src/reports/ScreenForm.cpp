@@ -18,8 +18,7 @@ namespace {
 
 constexpr double TwipsPerPixel = 15;  // a screen pixel is a 96th of an inch
 constexpr double SheetLong = 16838, SheetShort = 11906, Margin = 720;
-// Running text stands between these edges, below a head with the person's name and the program's mark.
-constexpr double TextLeft = 1502, TextWidth = 8902, BelowPageHead = 1700;
+constexpr double BelowPageHead = 1700;  // a PDF heads running text with the person's name and the program's mark
 constexpr int PictureScale = 3;
 constexpr double FullSizeChart = 320;  // pixels
 
@@ -38,12 +37,12 @@ class Walk {
     const QList<QTextEdit *> texts = page.findChildren<QTextEdit *>();
     const bool isText = std::any_of(texts.begin(), texts.end(), [this](QTextEdit *text) { return IsText(*text); });
     form.landscape = !isText && whole.width() > whole.height();
-    const double across = isText ? TextWidth : (form.landscape ? SheetLong : SheetShort) - 2 * Margin;
+    const double across = isText ? RunningText::Width : (form.landscape ? SheetLong : SheetShort) - 2 * Margin;
     const double down = (form.landscape ? SheetShort : SheetLong) - 2 * Margin;
     twips = std::min(TwipsPerPixel, across / whole.width());
     if (!isText) twips = std::min(twips, down / whole.height());
     origin = whole.topLeft();
-    left = (isText ? TextLeft : Margin) + (across - whole.width() * twips) / 2;
+    left = (isText ? RunningText::Left : Margin) + (across - whole.width() * twips) / 2;
     top = isText ? BelowPageHead : Margin;
   }
 

@@ -8,7 +8,7 @@
 namespace {
 
 // Twips on a sheet of A4, without the shift that printing adds.
-constexpr double TextLeft = 1502, TextWidth = 8902, TextTop = 1440, TextBottom = 15400;
+constexpr double TextTop = 1440, TextBottom = 15400;
 constexpr double LineSpacing = 1.25, ParagraphGap = 0.5;  // in heights of a line
 
 bool IsText(const FormItem &item) { return item.typeName == QLatin1String("TXTextControl"); }
@@ -16,6 +16,7 @@ bool IsText(const FormItem &item) { return item.typeName == QLatin1String("TXTex
 class Sheets {
  public:
   Sheets(const FormPage &page, PrinterService &service) : printer(service), made(1) {
+    made.front().landscape = page.landscape;
     for (const FormItem &item : page.items) {
       if (IsText(item)) continue;
       made.front().items.push_back(item);
@@ -43,7 +44,7 @@ class Sheets {
     QString line;
     for (const QString &word : paragraph.split(QLatin1Char(' '))) {
       const QString longer = line.isEmpty() ? word : line + QLatin1Char(' ') + word;
-      const bool isFull = !line.isEmpty() && printer.TextWidth(longer) > TextWidth;
+      const bool isFull = !line.isEmpty() && printer.TextWidth(longer) > RunningText::Width;
       if (isFull) AddLine(line, height);
       line = isFull ? word : longer;
     }
@@ -57,9 +58,9 @@ class Sheets {
     }
     FormItem label;
     label.typeName = QStringLiteral("Label");
-    label.Left = TextLeft;
+    label.Left = RunningText::Left;
     label.Top = y;
-    label.Width = TextWidth;
+    label.Width = RunningText::Width;
     label.Height = height;
     label.Caption = line;
     label.Font = format.font;

@@ -7,6 +7,6 @@
 #include "platform/PrinterService.h"
 #include "reports/FormItem.h"
 
-// A page with running text as the upright sheets that show it whole. A printer is given no running text, so each line of it, wrapped by
-// the printer's letters, becomes a label; what else the page holds stands on the first sheet.
+// A page as the sheets that show it whole: one, or as many upright ones as its running text needs. A printer is given no running text, so
+// each line of it, wrapped by the printer's letters, becomes a label; what else the page holds stands on the first sheet.
 std::vector<FormPage> TextSheets(const FormPage &page, PrinterService &printer);

@@ -35,12 +35,16 @@ bool clsPrintMaker::PrintForm(const FormPage &form) {
     }
     return true;
   } catch (const Error &) {
-    Notices::Show(
-        {Notice::Kind::Critical, QCoreApplication::translate("clsPrintMaker", "Erro Printing!"),
-         QCoreApplication::translate("clsPrintMaker",
-                                     "Printer Performed an Invalid Operation. Please Check if Printer is Connected or Has Enough Paper.")});
+    TellFault();
     return false;
   }
+}
+
+void clsPrintMaker::TellFault() {
+  Notices::Show(
+      {Notice::Kind::Critical, QCoreApplication::translate("clsPrintMaker", "Erro Printing!"),
+       QCoreApplication::translate("clsPrintMaker",
+                                   "Printer Performed an Invalid Operation. Please Check if Printer is Connected or Has Enough Paper.")});
 }
 
 void clsPrintMaker::PrintMyText(const QString &text, const QString &fontName, double size, bool bold) {

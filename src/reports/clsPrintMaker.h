@@ -12,6 +12,7 @@ class clsPrintMaker {
 
   // Shapes first, so that texts print over them. A failure ends the walk and is told in a message; false then.
   bool PrintForm(const FormPage &form);
+  static void TellFault();
 
   // One line at the printer's position. An empty name keeps the font's; a bold of false leaves bold off.
   void PrintMyText(const QString &text, const QString &fontName, double size, bool bold);

@@ -176,6 +176,15 @@ TEST_F(SettingsTest, TwoWindowsKeepEachOthersSettings) {
   EXPECT_TRUE(other.Refresh());
   EXPECT_EQ(other.IntValue(SettingKeys::AyanType), 7);
 
+  QDir().mkpath(path + ".lock");
+  EXPECT_EQ(Refusal([&] { other.SetIntValue(SettingKeys::AyanType, 3); }), StoreError::Kind::Locked);
+  QDir().rmdir(path + ".lock");
+  other.SetIntValue(SettingKeys::KundStyle, 1);
+  other.Refresh();
+  EXPECT_EQ(other.IntValue(SettingKeys::AyanType), 3) << "for this run, whatever else is stored";
+  EXPECT_EQ(FileUserSettings(path).IntValue(SettingKeys::AyanType), 7);
+  other.SetIntValue(SettingKeys::AyanType, 7);
+
   WriteWholeFile(path, "no settings any more");
   EXPECT_FALSE(other.Refresh());
   EXPECT_EQ(other.IntValue(SettingKeys::AyanType), 7) << "the open day keeps its ayanamsha";

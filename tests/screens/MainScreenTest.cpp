@@ -287,6 +287,9 @@ TEST_F(MainScreen, StartsWithAResidenceOrAnAyanamshaThatCannotBeUsed) {
     EXPECT_EQ(settings.Value(SettingKeys::CustAyan), ayanamsha) << "it stays to be mended";
     EXPECT_EQ(Caption("lblPersonName"), "Anvik Telvar");
     EXPECT_TRUE(Caption("lblNowIn").contains("Agra")) << "the birth place";
+    screen->ChangeMoment(Moment.addDays(1));
+    EXPECT_EQ(screen->Session().AnalysisMoment(), Moment.addDays(1));
+    EXPECT_EQ(notices.size(), isUsable ? 1 : 2) << "told once";
     settings.SetIntValue(SettingKeys::AyanType, 13);
   }
 }
