@@ -70,7 +70,8 @@ class SettingsCopy {
       CheckRoom(file->fileName(), mostBytes);  // the library would leave an empty file on a full disk
       file->sync();
       const QByteArray text = ReadWholeFile(file->fileName());
-      if (file->status() == QSettings::NoError && !text.trimmed().isEmpty()) return text;
+      // A line that is no entry makes a fault of form, now that every line is read; the reading has passed it.
+      if (file->status() != QSettings::AccessError && !text.trimmed().isEmpty()) return text;
     } catch (const StoreError &) {
       // Told below, by the name that the user knows.
     }
