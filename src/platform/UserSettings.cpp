@@ -33,6 +33,11 @@ QString StoredSpelling(const QStringList &names, const QString &name) {
   return name;
 }
 
+// A comma in a hand-written value makes the reader see a list.
+QString TextOf(const QVariant &value) {
+  return value.typeId() == QMetaType::QStringList ? value.toStringList().join(QStringLiteral(", ")) : value.toString();
+}
+
 QString ValueKey(const QString &section, const QString &key) { return (section + u'/' + key).toLower(); }
 
 QString FullKey(QSettings &file, const QString &section, const QString &key) {
@@ -177,12 +182,7 @@ void FileUserSettings::TakeIn(const QByteArray &content) {
   if (file.status() != QSettings::NoError) ThrowDamaged();
   values.clear();
   const QStringList keys = file.allKeys();
-  for (const QString &key : keys) {
-    const QVariant value = file.value(key);
-    // A comma in a hand-written value makes the reader see a list.
-    values.insert(key.toLower(),
-                  value.typeId() == QMetaType::QStringList ? value.toStringList().join(QStringLiteral(", ")) : value.toString());
-  }
+  for (const QString &key : keys) values.insert(key.toLower(), TextOf(file.value(key)));
   for (auto own = unkept.cbegin(); own != unkept.cend(); ++own) values.insert(own.key(), own.value());
   taken = content;
 }
@@ -215,6 +215,14 @@ void FileUserSettings::SetAll(const std::vector<Change> &changes) {
   SettingsCopy copy(before, Path());
   if (copy.File().status() != QSettings::NoError) ThrowDamaged();
   qint64 room = before.size();
+  // Whatever else a hand-written value looks like, it goes back as the text that it was read as.
+  const QStringList keys = copy.File().allKeys();
+  for (const QString &key : keys) {
+    const QVariant value = copy.File().value(key);
+    if (!value.isValid() || value.typeId() == QMetaType::QString) continue;  // a key with an empty part is not found by its name
+    copy.File().setValue(key, TextOf(value));
+    room += RoomForOneValue + TextOf(value).size() * MostBytesOfALetter;
+  }
   for (const Change &change : changes) {
     copy.File().setValue(FullKey(copy.File(), change.section, change.key), change.value);
     room += RoomForOneValue + change.value.size() * MostBytesOfALetter;
