@@ -40,12 +40,17 @@ QString TextOf(const QVariant &value) {
 
 QString ValueKey(const QString &section, const QString &key) { return (section + u'/' + key).toLower(); }
 
-QString FullKey(QSettings &file, const QString &section, const QString &key) {
-  const QString storedSection = StoredSpelling(file.childGroups(), section);
-  file.beginGroup(storedSection);
-  const QString storedKey = StoredSpelling(file.childKeys(), key);
-  file.endGroup();
-  return storedSection + u'/' + storedKey;
+// A file that was written by hand can have an entry in several spellings; all of them take the value, whichever is read.
+void Store(QSettings &file, const UserSettings::Change &change) {
+  const QString wanted = ValueKey(change.section, change.key);
+  bool isStored = false;
+  const QStringList keys = file.allKeys();
+  for (const QString &key : keys) {
+    if (key.toLower() != wanted) continue;
+    file.setValue(key, change.value);
+    isStored = true;
+  }
+  if (!isStored) file.setValue(StoredSpelling(file.childGroups(), change.section) + u'/' + change.key, change.value);
 }
 
 // A text of settings for the library that knows their form, under a path of its own: the library keeps what it has read of a path and
@@ -224,7 +229,7 @@ void FileUserSettings::SetAll(const std::vector<Change> &changes) {
     room += RoomForOneValue + TextOf(value).size() * MostBytesOfALetter;
   }
   for (const Change &change : changes) {
-    copy.File().setValue(FullKey(copy.File(), change.section, change.key), change.value);
+    Store(copy.File(), change);
     room += RoomForOneValue + change.value.size() * MostBytesOfALetter;
   }
   WriteWholeFile(Path(), copy.Text(room));
